@@ -1,0 +1,69 @@
+# Entry points for building, testing and running the toolkit. CMake and Ninja do
+# the work; this file only fixes the build folders and the order of the steps.
+
+JOBS      ?= 2
+BUILD_TYPE ?= RelWithDebInfo
+DEMO_ARGS ?= demo
+
+BUILD_DIR := build
+ASAN_DIR  := build-asan
+TSAN_DIR  := build-tsan
+
+CMAKE ?= cmake
+CTEST ?= ctest
+CLANG_FORMAT ?= clang-format
+
+ASAN_ENV := ASAN_OPTIONS=detect_leaks=1:abort_on_error=1 UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1
+TSAN_ENV := TSAN_OPTIONS=halt_on_error=1:second_deadlock_stack=1
+
+# configure,<folder>,<extra cmake arguments>
+configure = $(CMAKE) -S . -B $(1) -G Ninja -DCMAKE_BUILD_TYPE=$(BUILD_TYPE) $(2)
+compile   = $(CMAKE) --build $(1) --parallel $(JOBS)
+run_tests = cd $(1) && $(2) $(CTEST) --output-on-failure -j$(JOBS)
+
+FORMAT_DIRS := include src startup basic tools tests bench fuzz
+
+# Steps run in the order written; Ninja and ctest parallelise inside each step.
+.NOTPARALLEL:
+.PHONY: all deps build test asan tsan demo bench format clean
+
+all: build
+
+deps:
+	scripts/install-deps.sh
+
+build:
+	$(call configure,$(BUILD_DIR))
+	$(call compile,$(BUILD_DIR))
+
+test: deps build
+	$(call run_tests,$(BUILD_DIR))
+	$(MAKE) --no-print-directory asan
+
+asan:
+	$(call configure,$(ASAN_DIR),-DQUILON_SANITIZE=ON -DQUILON_BUILD_BENCH=OFF)
+	$(call compile,$(ASAN_DIR))
+	$(call run_tests,$(ASAN_DIR),$(ASAN_ENV))
+
+tsan:
+	$(call configure,$(TSAN_DIR),-DQUILON_TSAN=ON -DQUILON_BUILD_BENCH=OFF)
+	$(call compile,$(TSAN_DIR))
+	$(call run_tests,$(TSAN_DIR),$(TSAN_ENV))
+
+demo: deps build
+	$(BUILD_DIR)/bin/quilon $(DEMO_ARGS)
+
+bench: deps build
+	@set -e; found=0; \
+	for program in $(BUILD_DIR)/bin/bench_*; do \
+	    [ -x "$$program" ] || continue; \
+	    found=1; echo "== $$program"; "$$program"; \
+	done; \
+	[ $$found = 1 ] || echo "bench: no benchmark programs in $(BUILD_DIR)/bin"
+
+format:
+	find $(wildcard $(FORMAT_DIRS)) -type f \( -name '*.h' -o -name '*.hpp' -o -name '*.cpp' \) \
+	    -print0 | xargs -0 -r $(CLANG_FORMAT) -i
+
+clean:
+	rm -rf $(BUILD_DIR) $(ASAN_DIR) $(TSAN_DIR)

@@ -1,0 +1,47 @@
+# Build-wide settings of the toolkit: language level, default build type,
+# output folders, warnings, source-relative __FILE__ and the sanitizers.
+# Included once, from the top-level CMakeLists.txt, before any target exists.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+get_property(_quilon_multi_config GLOBAL PROPERTY GENERATOR_IS_MULTI_CONFIG)
+if(NOT _quilon_multi_config AND NOT CMAKE_BUILD_TYPE)
+    set(CMAKE_BUILD_TYPE RelWithDebInfo CACHE STRING "Build type" FORCE)
+    set_property(CACHE CMAKE_BUILD_TYPE PROPERTY STRINGS Debug Release RelWithDebInfo MinSizeRel)
+endif()
+
+# Every library lands in lib/ and every program in bin/, so that programs find
+# the libraries through $ORIGIN/../lib and the core finds the libraries it loads
+# next to itself.
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
+set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
+
+option(QUILON_SANITIZE "Build everything with AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
+option(QUILON_TSAN "Build everything with ThreadSanitizer" OFF)
+
+if(QUILON_SANITIZE AND QUILON_TSAN)
+    message(FATAL_ERROR "QUILON_SANITIZE and QUILON_TSAN cannot be combined; use separate build folders")
+endif()
+
+# The sanitizers apply to every target, tests included: a library built without
+# them would hide faults that cross a library boundary.
+if(QUILON_SANITIZE)
+    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined)
+elseif(QUILON_TSAN)
+    add_compile_options(-fsanitize=thread -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=thread)
+endif()
+
+# Raised exceptions record the source stem of their origin, so __FILE__ must read
+# "System/Pointer.cpp", not an absolute path. GCC tries the last matching map
+# first, hence the most general prefix comes first.
+add_compile_options(
+    -fmacro-prefix-map=${PROJECT_SOURCE_DIR}/=
+    -fmacro-prefix-map=${PROJECT_SOURCE_DIR}/include/Quilon_/=
+    -fmacro-prefix-map=${PROJECT_SOURCE_DIR}/src/=)

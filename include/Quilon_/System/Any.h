@@ -1,0 +1,174 @@
+// One value of any type known to the toolkit.
+//
+// Any is how operator arguments pass through rules and how properties store
+// values. Enumerations are stored as int64, interface references as
+// Pointer<Interface,0>, so that one test reads any interface out of it:
+//
+//   Any a = ToAny(42);
+//   a.CastTo<int>();            // 42
+//   a.CastTo<double>();         // raises: no numeric conversion here
+//   Any p = ToAny(Pointer<IThing>(thing));
+//   p.CastTo<Pointer<IOther, 0>>();   // the interface cast
+#pragma once
+
+#include "Quilon_/System/Pointer.h"
+
+#include <cstdint>
+#include <concepts>
+#include <cstring>
+#include <string>
+#include <type_traits>
+#include <typeinfo>
+#include <utility>
+
+namespace Quilon_::System {
+
+class Any;
+
+namespace Detail {
+
+class QUILON_API AnyHolderBase {
+public:
+    virtual ~AnyHolderBase();
+    // True if `other` holds a value of the same type that compares equal.
+    virtual bool Equals(const Any& other) const = 0;
+    virtual AnyHolderBase* Clone() const = 0;
+    // The address of the stored value if `type` is the holder's type,
+    // compared by name so that the test works across libraries.
+    virtual const void* ValuePointer(const std::type_info& type) const = 0;
+    // The declared type of the stored value.
+    virtual const std::type_info& TypeInfo() const = 0;
+
+    static void* operator new(std::size_t size);
+    static void operator delete(void* block) noexcept;
+};
+
+QUILON_API bool SameType(const std::type_info& a, const std::type_info& b) noexcept;
+
+template <class T>
+struct IsPointer : std::false_type {};
+template <class I, int N>
+struct IsPointer<Template::Pointer<I, N>> : std::true_type {};
+
+// How a value of type T is presented and stored.
+template <class T, class = void>
+struct AnyTraits {
+    using Presented = T;
+    using Stored = T;
+};
+template <class E>
+struct AnyTraits<E, std::enable_if_t<std::is_enum_v<E>>> {
+    using Presented = E;
+    using Stored = std::int64_t;
+};
+template <class T>
+struct AnyTraits<T, std::enable_if_t<IsPointer<T>::value>> {
+    using Presented = Template::Pointer<Interface, 0>;
+    using Stored = Template::Pointer<Interface, 0>;
+};
+
+template <class T, class S>
+class AnyHolder : public AnyHolderBase {
+public:
+    explicit AnyHolder(const S& value) : m_value(value) {}
+    bool Equals(const Any& other) const override;
+    AnyHolderBase* Clone() const override { return new AnyHolder(m_value); }
+    const void* ValuePointer(const std::type_info& type) const override
+    {
+        return SameType(type, typeid(T)) ? &m_value : nullptr;
+    }
+    const std::type_info& TypeInfo() const override { return typeid(T); }
+    const S& Value() const { return m_value; }
+
+private:
+    S m_value;
+};
+
+[[noreturn]] QUILON_API void RaiseEmptyAnyCast(const std::type_info& target);
+[[noreturn]] QUILON_API void RaiseAnyCast(const std::type_info& source, const std::type_info& target);
+
+} // namespace Detail
+
+class QUILON_API Any {
+public:
+    Any() noexcept = default;
+    // Takes ownership of `holder`.
+    explicit Any(Detail::AnyHolderBase* holder) noexcept : m_holder(holder) {}
+    Any(const Any& other) : m_holder(other.m_holder ? other.m_holder->Clone() : nullptr) {}
+    Any(Any&& other) noexcept : m_holder(std::exchange(other.m_holder, nullptr)) {}
+    ~Any() { delete m_holder; }
+
+    Any& operator=(const Any& other)
+    {
+        Any copy(other);
+        Swap(copy);
+        return *this;
+    }
+    Any& operator=(Any&& other) noexcept
+    {
+        Any moved(std::move(other));
+        Swap(moved);
+        return *this;
+    }
+
+    void Swap(Any& other) noexcept { std::swap(m_holder, other.m_holder); }
+    bool IsEmpty() const noexcept { return m_holder == nullptr; }
+    // The declared type of the value; typeid(void) when empty.
+    const std::type_info& TypeInfo() const noexcept { return m_holder ? m_holder->TypeInfo() : typeid(void); }
+    const Detail::AnyHolderBase* Holder() const noexcept { return m_holder; }
+
+    bool operator==(const Any& other) const
+    {
+        if (!m_holder || !other.m_holder)
+            return !m_holder && !other.m_holder;
+        return m_holder->Equals(other);
+    }
+
+    // A copy of the value as T. No numeric conversion: an int does not read
+    // as a double (Helper::ScalarValue does that).
+    template <class T>
+    T CastTo() const
+    {
+        static_assert(!std::is_reference_v<T>, "CastTo returns a copy");
+        using Stored = typename Detail::AnyTraits<T>::Stored;
+        if (!m_holder)
+            Detail::RaiseEmptyAnyCast(typeid(T));
+        if (const void* value = m_holder->ValuePointer(typeid(T)))
+            return static_cast<T>(*static_cast<const Stored*>(value));
+        if constexpr (Detail::IsPointer<T>::value) {
+            if (const void* value = m_holder->ValuePointer(typeid(Template::Pointer<Interface, 0>)))
+                return T(*static_cast<const Template::Pointer<Interface, 0>*>(value));
+        }
+        Detail::RaiseAnyCast(m_holder->TypeInfo(), typeid(T));
+    }
+
+private:
+    Detail::AnyHolderBase* m_holder = nullptr;
+    void* m_reserved = nullptr;
+};
+
+template <class T>
+Any ToAny(const T& value)
+{
+    using Traits = Detail::AnyTraits<T>;
+    return Any(new Detail::AnyHolder<typename Traits::Presented, typename Traits::Stored>(
+        static_cast<typename Traits::Stored>(value)));
+}
+inline Any ToAny(const char* value) { return ToAny(std::string(value)); }
+inline Any ToAny(const wchar_t* value) { return ToAny(std::wstring(value)); }
+
+namespace Detail {
+template <class T, class S>
+bool AnyHolder<T, S>::Equals(const Any& other) const
+{
+    const void* value = other.Holder() ? other.Holder()->ValuePointer(typeid(T)) : nullptr;
+    if (!value)
+        return false;
+    if constexpr (std::equality_comparable<S>)
+        return m_value == *static_cast<const S*>(value);
+    else
+        return value == &m_value;
+}
+} // namespace Detail
+
+} // namespace Quilon_::System

@@ -1,0 +1,445 @@
+// Operator objects: named objects, exported as data, on which libraries
+// register implementations and through which applications call.
+//
+//   // an exported operator with no implementation yet
+//   Function<double (*)(double, double)> Scale(L"Scale");
+//   // a library registers an implementation at start-up; the one registered
+//   // last is tried first, the earlier ones stay as fall-backs
+//   Scale.Register(L"Fast scale", &FastScale);
+//   double y = Scale(2.0, 3.0);
+//
+// A call walks the implementations from the first to the last until one
+// succeeds. An operator with rules boxes its arguments into Anys and runs
+// the rule chains Check, Make, Check again and PreExecute before each
+// implementation, and PostExecute after it; an operator without rules
+// costs one size check and one indirect call.
+#pragma once
+
+#include "Quilon_/System/Any.h"
+#include "Quilon_/System/Functions/Rules/RuleCollection.h"
+#include "Quilon_/System/Raise.h"
+#include "Quilon_/System/String.h"
+
+#include <algorithm>
+#include <atomic>
+#include <cstdint>
+#include <exception>
+#include <optional>
+#include <string>
+#include <tuple>
+#include <type_traits>
+#include <utility>
+#include <vector>
+
+namespace Quilon_::System::Functions {
+
+// The four moments at which rules run; the numbers index the rule vectors.
+enum RuleTypeEnumTag : std::int32_t {
+    // Before the implementation, before and again after Make.
+    rtCheck = 0,
+    // Between the two runs of Check; prepares outputs.
+    rtMake = 1,
+    // Directly before the implementation.
+    rtPreExecute = 2,
+    // After the implementation has returned normally.
+    rtPostExecute = 3,
+};
+using RuleTypeEnum = RuleTypeEnumTag;
+
+inline constexpr std::size_t RuleTypeCount = 4;
+using RuleCollections = std::vector<Pointer<Rules::IRuleCollection, 0>>;
+
+// Text for tools that present operators.
+class QUILON_API IDescription : public virtual Interface {
+    QUILON_INTERFACE(IDescription)
+public:
+    virtual LIString Summary() = 0;
+    virtual LIString Details() = 0;
+    virtual std::int64_t ArgumentCount() = 0;
+    virtual LIString ArgumentDescription(std::int64_t index) = 0;
+};
+
+namespace Function {
+// While true, every skipped implementation is written to the debugger
+// output. False at start.
+QUILON_API bool DiagnosticEnabled();
+QUILON_API void SetDiagnosticEnabled(bool enabled);
+} // namespace Function
+
+namespace Detail {
+
+// One registered implementation, without its function pointer.
+class QUILON_API Implementation {
+public:
+    explicit Implementation(bool ignoreFunctionRules = false);
+    Implementation(const LIString& name, bool ignoreFunctionRules = false);
+
+    const LIString& Name() const { return name; }
+    Pointer<IDescription, 0> Description() const { return description; }
+    void SetDescription(Pointer<IDescription, 0> value) { description = std::move(value); }
+    // With this set, only the implementation's own rules run.
+    bool IgnoreFunctionRules() const { return ignoreFunctionRules; }
+    Pointer<Rules::IRuleCollection, 0> Rules(RuleTypeEnum type) const;
+    void SetRules(RuleTypeEnum type, Pointer<Rules::IRuleCollection, 0> collection);
+    void SetRules(const RuleCollections& collections);
+    // Whether any of the four collections is set.
+    bool HasOwnRules() const { return hasRules; }
+
+private:
+    LIString name;
+    Pointer<IDescription, 0> description;
+    RuleCollections rules;
+    bool ignoreFunctionRules;
+    bool hasRules = false;
+};
+
+// The part of an operator that does not depend on its signature.
+class QUILON_API Function {
+public:
+    Function();
+    explicit Function(const std::wstring& name);
+    Function(const Function& other);
+    Function& operator=(const Function&) = delete;
+    virtual ~Function();
+
+    // True if an implementation is registered; otherwise false, or with
+    // `throwIfNot` the failure "No implementation available for function".
+    virtual bool CheckImplemented(bool throwIfNot) const = 0;
+
+    const std::wstring& Name() const { return name; }
+    Pointer<IDescription, 0> Description() const { return description; }
+    void SetDescription(Pointer<IDescription, 0> value) { description = std::move(value); }
+    Pointer<Rules::IRuleCollection, 0> Rules(RuleTypeEnum type) const;
+    void SetRules(RuleTypeEnum type, Pointer<Rules::IRuleCollection, 0> collection);
+    void SetRules(const RuleCollections& collections);
+    const RuleCollections& AllRules() const { return rules; }
+
+    // The next call runs only the implementation of `index`. A one-shot,
+    // consumed by that call; not guarded against other threads.
+    void SetNextRunImplementation(std::int64_t index);
+    std::int64_t NextRunImplementation() const { return nextRunImplementation.load(std::memory_order_relaxed); }
+
+    // Runs the function's collection of `type` (unless the implementation
+    // ignores it), then the implementation's own; false at the first that
+    // fails.
+    bool ApplyRules(RuleTypeEnum type, const Implementation& implementation, std::vector<Any>& arguments,
+                    Rules::RuleFailures& failures) const;
+
+protected:
+    bool HasRules(const Implementation& implementation) const
+    {
+        return hasRules || implementation.HasOwnRules();
+    }
+    bool ApplyRules(const Pointer<Rules::IRuleCollection, 0>& functionRules,
+                    const Pointer<Rules::IRuleCollection, 0>& implementationRules, std::vector<Any>& arguments,
+                    Rules::RuleFailures& failures) const;
+
+    // Consumes the selection of SetNextRunImplementation and narrows
+    // [first, last] to it; raises when it is out of range.
+    void SelectImplementation(std::size_t count, std::size_t& first, std::size_t& last) const;
+    [[noreturn]] void RaiseNotImplemented(const char* signature, const char* file, int line) const;
+    // Writes the skip to the debugger output while diagnostics are enabled.
+    void TraceSkipped(const Implementation& implementation, const Rules::RuleFailures& failures,
+                      const char* signature) const;
+    // Failures of implementations that are not IExceptions, turned into
+    // recorded exceptions.
+    static Pointer<IException, 1> StandardFailure(const std::exception& failure, const char* signature);
+    static Pointer<IException, 1> UnknownFailure(const char* signature);
+    // The end of a call in which every implementation failed.
+    [[noreturn]] static void RaiseFailed(Pointer<IException, 0> lastError, const Rules::RuleFailures& failures,
+                                         const char* signature, const char* file, int line);
+
+private:
+    std::wstring name;
+    Pointer<IDescription, 0> description;
+    RuleCollections rules;
+    mutable std::atomic<std::int64_t> nextRunImplementation{-1};
+    bool hasRules = false;
+};
+
+// Keeps a result, or nothing for void, across the post-execution rules.
+template <class R>
+struct ResultOf {
+    std::optional<R> value;
+    template <class F>
+    void Call(F&& call)
+    {
+        value.emplace(call());
+    }
+    R Take() { return std::move(*value); }
+};
+template <>
+struct ResultOf<void> {
+    template <class F>
+    void Call(F&& call)
+    {
+        call();
+    }
+    void Take() {}
+};
+
+// Passes an argument on as its parameter type asks: by-value parameters as
+// copies, so that a later implementation gets the caller's values again.
+template <class A, class V>
+decltype(auto) PassOn(V& value)
+{
+    if constexpr (std::is_rvalue_reference_v<A>)
+        return std::move(value);
+    else
+        return static_cast<V&>(value);
+}
+
+template <class A>
+using Unboxed = std::remove_cvref_t<A>;
+
+// A parameter through which the implementation hands a value back.
+template <class A>
+inline constexpr bool IsOutput = std::is_lvalue_reference_v<A> && !std::is_const_v<std::remove_reference_t<A>>;
+
+} // namespace Detail
+
+namespace Template {
+
+template <class R, class... A>
+class QUILON_API FunctionN : public Detail::Function {
+    static_assert(sizeof...(A) <= 13, "operators take at most 13 arguments");
+
+public:
+    using FunctionPointer = R (*)(A...);
+    using Result = R;
+
+    class Implementation : public Detail::Implementation {
+    public:
+        explicit Implementation(FunctionPointer function, bool ignoreFunctionRules = false)
+            : Detail::Implementation(ignoreFunctionRules), function(function)
+        {
+        }
+        Implementation(const LIString& name, FunctionPointer function, bool ignoreFunctionRules = false)
+            : Detail::Implementation(name, ignoreFunctionRules), function(function)
+        {
+        }
+        FunctionPointer function;
+    };
+
+    FunctionN() = default;
+    explicit FunctionN(const std::wstring& name) : Detail::Function(name) {}
+
+    bool CheckImplemented(bool throwIfNot) const override
+    {
+        if (!implementations.empty())
+            return true;
+        if (!throwIfNot)
+            return false;
+        RaiseNotImplemented(QUILON_FUNCTION, __FILE__, __LINE__);
+    }
+
+    // Registration puts the new implementation at the front: the one
+    // registered last is tried first.
+    void Register(const Implementation& implementation)
+    {
+        implementations.push_back(implementation);
+        std::rotate(implementations.begin(), implementations.end() - 1, implementations.end());
+    }
+    void Register(FunctionPointer function)
+    {
+        if (function)
+            Register(Implementation(function));
+    }
+    void Register(const LIString& name, FunctionPointer function, bool ignoreFunctionRules = false)
+    {
+        if (function)
+            Register(Implementation(name, function, ignoreFunctionRules));
+    }
+    // Removes every registration of `function`, for a library that goes away.
+    void Unregister(FunctionPointer function)
+    {
+        std::erase_if(implementations, [function](const Implementation& i) { return i.function == function; });
+    }
+
+    const std::vector<Implementation>& Implementations() const { return implementations; }
+    // For start-up code that sets an implementation's own rules.
+    std::vector<Implementation>& Implementations() { return implementations; }
+
+    R operator()(A... arguments) const
+    {
+        if (implementations.empty()) [[unlikely]]
+            FunctionN::CheckImplemented(true);
+        std::size_t first = 0;
+        std::size_t last = implementations.size() - 1;
+        if (NextRunImplementation() >= 0) [[unlikely]]
+            SelectImplementation(implementations.size(), first, last);
+
+        Rules::RuleFailures failures;
+        Pointer<IException, 0> lastError;
+        for (std::size_t index = first; index <= last; ++index) {
+            try {
+                failures.clear();
+                const Implementation& implementation = implementations[index];
+                if (!HasRules(implementation)) [[likely]]
+                    return implementation.function(Detail::PassOn<A>(arguments)...);
+                std::optional<Detail::ResultOf<R>> result = CallWithRules(implementation, failures, arguments...);
+                if (result)
+                    return result->Take();
+            } catch (const Pointer<IException, 1>& failure) {
+                lastError = failure;
+            } catch (const std::exception& failure) {
+                lastError = StandardFailure(failure, QUILON_FUNCTION);
+            } catch (...) {
+                lastError = UnknownFailure(QUILON_FUNCTION);
+            }
+        }
+        RaiseFailed(lastError, failures, QUILON_FUNCTION, __FILE__, __LINE__);
+    }
+
+    // Writes the skipped implementation to the debugger output while
+    // diagnostics are enabled.
+    void SkipImplementation(const Detail::Implementation& implementation, Rules::RuleFailures& failures) const
+    {
+        TraceSkipped(implementation, failures, QUILON_FUNCTION);
+    }
+
+    // Runs the post-execution rules when the call has succeeded. Its
+    // destructor raises the first failure of those rules, on purpose; it
+    // does nothing when the implementation failed.
+    class PostExecutionRulesEvaluator {
+    public:
+        PostExecutionRulesEvaluator(const FunctionN& function, const Detail::Implementation& implementation,
+                                    std::vector<Any>& arguments)
+            : function(function), implementation(implementation), arguments(arguments)
+        {
+        }
+        PostExecutionRulesEvaluator(const PostExecutionRulesEvaluator&) = delete;
+        PostExecutionRulesEvaluator& operator=(const PostExecutionRulesEvaluator&) = delete;
+        ~PostExecutionRulesEvaluator() noexcept(false)
+        {
+            if (implementationFailed)
+                return;
+            Rules::RuleFailures failures;
+            function.ApplyRules(rtPostExecute, implementation, arguments, failures);
+            if (failures.empty())
+                return;
+            RaisePostExecutionFailure(failures.front().second);
+        }
+
+        const FunctionN& function;
+        const Detail::Implementation& implementation;
+        std::vector<Any>& arguments;
+        bool implementationFailed = false;
+
+    private:
+        [[noreturn]] static void RaisePostExecutionFailure(const std::wstring& text)
+        {
+            System::Detail::Throw(System::Detail::MakeReported(System::Detail::Formatter(
+                text, ToString(QUILON_FUNCTION), ToString(__FILE__), __LINE__)));
+        }
+    };
+
+private:
+    // The path with rules for one implementation: box, run Check, Make,
+    // Check, PreExecute, read the arguments back, call, run PostExecute.
+    // Empty when a rule refused the implementation.
+    std::optional<Detail::ResultOf<R>> CallWithRules(const Implementation& implementation,
+                                                     Rules::RuleFailures& failures, A&... arguments) const
+    {
+        std::vector<Any> boxed;
+        boxed.reserve(sizeof...(A));
+        (boxed.push_back(ToAny(arguments)), ...);
+        for (RuleTypeEnum type : {rtCheck, rtMake, rtCheck, rtPreExecute}) {
+            if (!ApplyRules(type, implementation, boxed, failures)) {
+                SkipImplementation(implementation, failures);
+                return std::nullopt;
+            }
+        }
+        std::optional<Detail::ResultOf<R>> result(std::in_place);
+        {
+            PostExecutionRulesEvaluator evaluator(*this, implementation, boxed);
+            try {
+                CallUnboxed(implementation, boxed, *result, std::index_sequence_for<A...>(), arguments...);
+            } catch (...) {
+                evaluator.implementationFailed = true;
+                throw;
+            }
+        }
+        return result;
+    }
+
+    // Reads the arguments back (rules may have replaced them), calls, and
+    // hands the values of output parameters back to the caller and to the
+    // post-execution rules.
+    template <std::size_t... I>
+    static void CallUnboxed(const Implementation& implementation, std::vector<Any>& boxed,
+                            Detail::ResultOf<R>& result, std::index_sequence<I...>, A&... arguments)
+    {
+        std::tuple<Detail::Unboxed<A>...> values(boxed[I].template CastTo<Detail::Unboxed<A>>()...);
+        result.Call([&]() -> R { return implementation.function(Detail::PassOn<A>(std::get<I>(values))...); });
+        (StoreOutput<A>(std::get<I>(values), arguments, boxed[I]), ...);
+    }
+
+    template <class Parameter, class Value, class Argument>
+    static void StoreOutput(const Value& value, Argument& argument, Any& box)
+    {
+        if constexpr (Detail::IsOutput<Parameter>) {
+            argument = value;
+            box = ToAny(value);
+        }
+    }
+
+    std::vector<Implementation> implementations;
+};
+
+template <class R>
+using Function0 = FunctionN<R>;
+template <class R, class A1>
+using Function1 = FunctionN<R, A1>;
+template <class R, class A1, class A2>
+using Function2 = FunctionN<R, A1, A2>;
+template <class R, class A1, class A2, class A3>
+using Function3 = FunctionN<R, A1, A2, A3>;
+template <class R, class A1, class A2, class A3, class A4>
+using Function4 = FunctionN<R, A1, A2, A3, A4>;
+template <class R, class A1, class A2, class A3, class A4, class A5>
+using Function5 = FunctionN<R, A1, A2, A3, A4, A5>;
+template <class R, class A1, class A2, class A3, class A4, class A5, class A6>
+using Function6 = FunctionN<R, A1, A2, A3, A4, A5, A6>;
+template <class R, class A1, class A2, class A3, class A4, class A5, class A6, class A7>
+using Function7 = FunctionN<R, A1, A2, A3, A4, A5, A6, A7>;
+template <class R, class A1, class A2, class A3, class A4, class A5, class A6, class A7, class A8>
+using Function8 = FunctionN<R, A1, A2, A3, A4, A5, A6, A7, A8>;
+template <class R, class A1, class A2, class A3, class A4, class A5, class A6, class A7, class A8, class A9>
+using Function9 = FunctionN<R, A1, A2, A3, A4, A5, A6, A7, A8, A9>;
+template <class R, class A1, class A2, class A3, class A4, class A5, class A6, class A7, class A8, class A9,
+          class A10>
+using Function10 = FunctionN<R, A1, A2, A3, A4, A5, A6, A7, A8, A9, A10>;
+template <class R, class A1, class A2, class A3, class A4, class A5, class A6, class A7, class A8, class A9,
+          class A10, class A11>
+using Function11 = FunctionN<R, A1, A2, A3, A4, A5, A6, A7, A8, A9, A10, A11>;
+template <class R, class A1, class A2, class A3, class A4, class A5, class A6, class A7, class A8, class A9,
+          class A10, class A11, class A12>
+using Function12 = FunctionN<R, A1, A2, A3, A4, A5, A6, A7, A8, A9, A10, A11, A12>;
+template <class R, class A1, class A2, class A3, class A4, class A5, class A6, class A7, class A8, class A9,
+          class A10, class A11, class A12, class A13>
+using Function13 = FunctionN<R, A1, A2, A3, A4, A5, A6, A7, A8, A9, A10, A11, A12, A13>;
+
+// An operator by its signature: Function<void (*)(Pointer<IImage>, double&)>.
+template <class Signature>
+class Function;
+
+template <class R, class... A>
+class QUILON_API Function<R (*)(A...)> : public FunctionN<R, A...> {
+public:
+    // An operator without implementation, named `name`.
+    explicit Function(const std::wstring& name) : FunctionN<R, A...>(name) {}
+    explicit Function(const wchar_t* name) : FunctionN<R, A...>(name) {}
+    // An operator with a default implementation (no name, rules honoured).
+    explicit Function(R (*function)(A...)) { this->Register(function); }
+};
+
+template <class R, class... A>
+class QUILON_API Function<R(A...)> : public Function<R (*)(A...)> {
+public:
+    using Function<R (*)(A...)>::Function;
+};
+
+} // namespace Template
+
+} // namespace Quilon_::System::Functions

@@ -1,0 +1,261 @@
+// The counted handle through which every object of the toolkit is held.
+//
+// A Pointer<T,N> is exactly one machine pointer to T. Copying takes a
+// reference on the object and destroying drops it; the object counts its own
+// references (see Object.h). The policy N decides what a null means:
+//
+//   Pointer<IThing, 0> maybe;          // may hold null; failed casts give null
+//   Pointer<IThing, 1> thing = make(); // never assigned null; failed casts throw
+//   Pointer<IBox, 2> box = other;      // as 1, and every assignment clones
+//
+// A conversion between unrelated interfaces is an interface cast: the source
+// may delegate it (Interface::FindDelegate), otherwise dynamic_cast decides.
+#pragma once
+
+#include "Quilon_/System/Interface.h"
+
+#include <cstddef>
+#include <type_traits>
+#include <utility>
+
+namespace Quilon_::System {
+
+class ICloneable;
+
+namespace Detail {
+// The failures of the policies, kept out of line so that the inline paths
+// stay small. Each raises by the library's raising sequence.
+// The location is that of the inline code that detected the failure.
+struct SourceLocation {
+    const char* function;
+    const char* file;
+    int line;
+};
+[[noreturn]] QUILON_API void RaiseNullAssignment(const Type& type, SourceLocation where);
+[[noreturn]] QUILON_API void RaiseNullAccess(const Type& type, SourceLocation where);
+[[noreturn]] QUILON_API void RaiseInterfaceNotSupported(const Type& type, Interface* source, SourceLocation where);
+[[noreturn]] QUILON_API void RaiseCloneableNotSupported(const Type& type, Interface* source, SourceLocation where);
+// Asks `source` for a clone through ICloneable; the result carries one
+// reference for the caller, or is null when the source is not cloneable.
+QUILON_API Interface* CloneThroughICloneable(Interface* source);
+
+template <class T>
+Interface* AsInterface(T* value) noexcept
+{
+    return value ? static_cast<Interface*>(value) : nullptr;
+}
+
+// The interface cast without policy checks: FindDelegate first, then the
+// language's dynamic cast. Takes no reference.
+template <class T>
+T* InterfaceCast(Interface* source)
+{
+    if (!source)
+        return nullptr;
+    void* target = nullptr;
+    bool exact = false;
+    if (!source->FindDelegate(T::GetType(), target, exact))
+        return dynamic_cast<T*>(source);
+    if (!exact)
+        return dynamic_cast<T*>(static_cast<Interface*>(target));
+    return static_cast<T*>(target);
+}
+} // namespace Detail
+
+namespace Template {
+
+template <int N>
+struct Policy;
+
+// Nullable reference: conversions never throw.
+template <>
+struct Policy<0> {
+    template <class T>
+    static void CheckInterface(T*) noexcept
+    {
+    }
+    static void CheckInterfaceCast(const Type&, Interface*, Interface*) noexcept {}
+};
+
+// Reference: null is refused on assignment and after a failed cast.
+template <>
+struct Policy<1> {
+    template <class T>
+    static void CheckInterface(T* value)
+    {
+        if (!value)
+            Detail::RaiseNullAssignment(T::GetType(), QUILON_HERE);
+    }
+    static void CheckInterfaceCast(const Type& type, Interface* source, Interface* result)
+    {
+        if (result)
+            return;
+        if (source)
+            Detail::RaiseInterfaceNotSupported(type, source, QUILON_HERE);
+        Detail::RaiseNullAssignment(type, QUILON_HERE);
+    }
+};
+
+// Value reference: as 1, and the pointee is cloned on every assignment.
+template <>
+struct Policy<2> : Policy<1> {
+    template <class T>
+    static void Assign(T*& target, T* source)
+    {
+        Interface* clone = Detail::CloneThroughICloneable(static_cast<Interface*>(source));
+        if (!clone)
+            Detail::RaiseCloneableNotSupported(T::GetType(), source, QUILON_HERE);
+        T* result = Detail::InterfaceCast<T>(clone);
+        if (result)
+            result->AddReference();
+        clone->ReleaseReference();
+        target = result;
+    }
+};
+
+template <class T, int N = 1>
+class QUILON_API Pointer {
+    static_assert(N >= 0 && N <= 2, "Pointer policies are 0, 1 and 2");
+
+public:
+    using element_type = T;
+    static constexpr int policy = N;
+
+    // A default or moved-from Pointer is null whatever its policy; the
+    // policies refuse null only where a value is assigned.
+    constexpr Pointer() noexcept : m_pointer(nullptr) {}
+    Pointer(std::nullptr_t) : m_pointer(nullptr) { Policy<N>::CheckInterface(static_cast<T*>(nullptr)); }
+    // Adopts `value` without cloning it, whatever the policy.
+    Pointer(T* value) : m_pointer(value)
+    {
+        Policy<N>::CheckInterface(value);
+        if (value)
+            value->AddReference();
+    }
+
+    // Policies 0 and 1 share the object, and pass a null on as it is;
+    // policy 2 refuses a null and clones.
+    Pointer(const Pointer& other) : m_pointer(Acquire(other.m_pointer, N == 2)) {}
+    Pointer(Pointer&& other) noexcept : m_pointer(std::exchange(other.m_pointer, nullptr)) {}
+
+    // From another interface or another policy: an upcast or an interface
+    // cast, with the check of this policy.
+    template <class U, int M>
+    Pointer(const Pointer<U, M>& other) : m_pointer(Convert(other.Get()))
+    {
+    }
+
+    ~Pointer()
+    {
+        if (m_pointer)
+            m_pointer->ReleaseReference();
+        m_pointer = nullptr;
+    }
+
+    Pointer& operator=(const Pointer& other)
+    {
+        Replace(Acquire(other.m_pointer, N == 2));
+        return *this;
+    }
+    Pointer& operator=(Pointer&& other)
+    {
+        if (this != &other)
+            Replace(std::exchange(other.m_pointer, nullptr));
+        return *this;
+    }
+    Pointer& operator=(T* value)
+    {
+        Replace(Acquire(value, true));
+        return *this;
+    }
+    Pointer& operator=(std::nullptr_t)
+    {
+        Policy<N>::CheckInterface(static_cast<T*>(nullptr));
+        Replace(nullptr);
+        return *this;
+    }
+    template <class U, int M>
+    Pointer& operator=(const Pointer<U, M>& other)
+    {
+        if constexpr (!std::is_convertible_v<U*, T*>) {
+            // The old value goes before the cast begins.
+            Replace(nullptr);
+        }
+        Replace(Convert(other.Get()));
+        return *this;
+    }
+
+    T* operator->() const
+    {
+        if (!m_pointer)
+            Detail::RaiseNullAccess(T::GetType(), QUILON_HERE);
+        return m_pointer;
+    }
+    T& operator*() const { return *operator->(); }
+
+    // The raw pointer, without a reference and without a test.
+    T* Get() const noexcept { return m_pointer; }
+    explicit operator bool() const noexcept { return m_pointer != nullptr; }
+
+    // Identity of the objects, whatever the interfaces they are held by.
+    template <class U, int M>
+    bool operator==(const Pointer<U, M>& other) const noexcept
+    {
+        return Detail::AsInterface(m_pointer) == Detail::AsInterface(other.Get());
+    }
+    bool operator==(std::nullptr_t) const noexcept { return m_pointer == nullptr; }
+
+private:
+    // Returns `value` with one reference taken for this pointer: the value
+    // itself, or with policy 2 and `clone` a clone of it. With `check`, a
+    // null is refused as policies 1 and 2 require.
+    static T* Acquire(T* value, bool check)
+    {
+        if (check)
+            Policy<N>::CheckInterface(value);
+        if constexpr (N == 2) {
+            if (value) {
+                T* clone = nullptr;
+                Policy<2>::Assign(clone, value);
+                return clone;
+            }
+        }
+        if (value)
+            value->AddReference();
+        return value;
+    }
+
+    template <class U>
+    static T* Convert(U* source)
+    {
+        if constexpr (std::is_convertible_v<U*, T*>) {
+            // An upcast needs no cast machinery.
+            return Acquire(source, true);
+        } else {
+            Interface* from = Detail::AsInterface(source);
+            T* result = Detail::InterfaceCast<T>(from);
+            Policy<N>::CheckInterfaceCast(T::GetType(), from, Detail::AsInterface(result));
+            return Acquire(result, true);
+        }
+    }
+
+    // Stores `fresh`, which already carries its reference, and drops the old.
+    void Replace(T* fresh)
+    {
+        T* old = std::exchange(m_pointer, fresh);
+        if (old)
+            old->ReleaseReference();
+    }
+
+    T* m_pointer;
+};
+
+} // namespace Template
+
+using Template::Pointer;
+
+// Shorthand of the documentation: Ref<T> is a reference that is never null.
+template <class T>
+using Ref = Template::Pointer<T, 1>;
+
+} // namespace Quilon_::System

@@ -1,0 +1,36 @@
+#include "Quilon_/System/Cloneable.h"
+
+#include "Quilon_/System/Raise.h"
+#include "Quilon_/System/Type.h"
+
+namespace Quilon_::System {
+
+QUILON_DEFINE_INTERFACE_TYPE(ICloneable, L"Quilon_::System::ICloneable", Interface)
+QUILON_DEFINE_INTERFACE_TYPE(Collections::ICloneable, L"Quilon_::System::Collections::ICloneable", Interface)
+
+namespace {
+template <class C>
+Interface* CloneThrough(C* cloneable)
+{
+    Pointer<C, 1> clone = cloneable->Clone();
+    Interface* result = clone.Get();
+    result->AddReference();
+    return result;
+}
+} // namespace
+
+Interface* Detail::CloneVariable(Interface* source)
+{
+    if (auto* collection = InterfaceCast<Collections::ICloneable>(source))
+        return CloneThrough(collection);
+    if (auto* cloneable = InterfaceCast<ICloneable>(source))
+        return CloneThrough(cloneable);
+    return nullptr;
+}
+
+void Detail::RaiseNotCloneable(const Type& type)
+{
+    QUILON_RAISE(L"Class '%1%' does not implement ICloneable", type.Name());
+}
+
+} // namespace Quilon_::System

@@ -1,0 +1,185 @@
+#include "Quilon_/System/Functions/Function.h"
+
+#include "Quilon_/Library.h"
+#include "Quilon_/System/Diagnostic/TraceManager.h"
+#include "Quilon_/System/Type.h"
+
+#include <atomic>
+
+namespace Quilon_::System::Functions {
+
+QUILON_DEFINE_INTERFACE_TYPE(IDescription, L"Quilon_::System::Functions::IDescription", Interface)
+
+namespace {
+constinit std::atomic<bool> diagnosticEnabled{false};
+
+bool AnySet(const RuleCollections& collections)
+{
+    for (const auto& collection : collections) {
+        if (collection)
+            return true;
+    }
+    return false;
+}
+
+// A vector of exactly the four collections, missing ones null.
+RuleCollections FourOf(const RuleCollections& collections)
+{
+    RuleCollections four(RuleTypeCount);
+    for (std::size_t i = 0; i < RuleTypeCount && i < collections.size(); ++i)
+        four[i] = collections[i];
+    return four;
+}
+} // namespace
+
+bool Function::DiagnosticEnabled()
+{
+    return diagnosticEnabled.load(std::memory_order_relaxed);
+}
+
+void Function::SetDiagnosticEnabled(bool enabled)
+{
+    diagnosticEnabled.store(enabled, std::memory_order_relaxed);
+}
+
+namespace Detail {
+
+Implementation::Implementation(bool ignoreFunctionRules)
+    : rules(RuleTypeCount), ignoreFunctionRules(ignoreFunctionRules)
+{
+}
+
+Implementation::Implementation(const LIString& name, bool ignoreFunctionRules)
+    : name(name), rules(RuleTypeCount), ignoreFunctionRules(ignoreFunctionRules)
+{
+}
+
+Pointer<Rules::IRuleCollection, 0> Implementation::Rules(RuleTypeEnum type) const
+{
+    return rules.at(static_cast<std::size_t>(type));
+}
+
+void Implementation::SetRules(RuleTypeEnum type, Pointer<Rules::IRuleCollection, 0> collection)
+{
+    rules.at(static_cast<std::size_t>(type)) = std::move(collection);
+    hasRules = AnySet(rules);
+}
+
+void Implementation::SetRules(const RuleCollections& collections)
+{
+    rules = FourOf(collections);
+    hasRules = AnySet(rules);
+}
+
+Function::Function() : rules(RuleTypeCount) {}
+
+Function::Function(const std::wstring& name) : name(name), rules(RuleTypeCount) {}
+
+Function::Function(const Function& other)
+    : name(other.name), description(other.description), rules(other.rules),
+      nextRunImplementation(other.nextRunImplementation.load(std::memory_order_relaxed)), hasRules(other.hasRules)
+{
+}
+
+Function::~Function() = default;
+
+Pointer<Rules::IRuleCollection, 0> Function::Rules(RuleTypeEnum type) const
+{
+    return rules.at(static_cast<std::size_t>(type));
+}
+
+void Function::SetRules(RuleTypeEnum type, Pointer<Rules::IRuleCollection, 0> collection)
+{
+    rules.at(static_cast<std::size_t>(type)) = std::move(collection);
+    hasRules = AnySet(rules);
+}
+
+void Function::SetRules(const RuleCollections& collections)
+{
+    rules = FourOf(collections);
+    hasRules = AnySet(rules);
+}
+
+void Function::SetNextRunImplementation(std::int64_t index)
+{
+    nextRunImplementation.store(index, std::memory_order_relaxed);
+}
+
+bool Function::ApplyRules(RuleTypeEnum type, const Implementation& implementation, std::vector<Any>& arguments,
+                          Rules::RuleFailures& failures) const
+{
+    static const Pointer<Rules::IRuleCollection, 0> none;
+    const auto& functionRules =
+        implementation.IgnoreFunctionRules() ? none : rules[static_cast<std::size_t>(type)];
+    return ApplyRules(functionRules, implementation.Rules(type), arguments, failures);
+}
+
+bool Function::ApplyRules(const Pointer<Rules::IRuleCollection, 0>& functionRules,
+                          const Pointer<Rules::IRuleCollection, 0>& implementationRules,
+                          std::vector<Any>& arguments, Rules::RuleFailures& failures) const
+{
+    if (functionRules && !functionRules->Apply(arguments, failures, false))
+        return false;
+    if (!implementationRules)
+        return true;
+    return implementationRules->Apply(arguments, failures, false);
+}
+
+void Function::SelectImplementation(std::size_t count, std::size_t& first, std::size_t& last) const
+{
+    std::int64_t selected = nextRunImplementation.exchange(-1, std::memory_order_relaxed);
+    if (selected < 0)
+        return;
+    if (static_cast<std::uint64_t>(selected) >= count)
+        QUILON_RAISE(L"Implementation index is out of range '%1%'", selected);
+    first = last = static_cast<std::size_t>(selected);
+}
+
+void Function::RaiseNotImplemented(const char* signature, const char* file, int line) const
+{
+    System::Detail::Raise(signature, file, line, L"No implementation available for function '%1%' (%2%)", name,
+                          std::string(signature));
+}
+
+void Function::TraceSkipped(const Implementation& implementation, const Rules::RuleFailures& failures,
+                            const char* signature) const
+{
+    if (!Functions::Function::DiagnosticEnabled())
+        return;
+    std::wstring reason = failures.empty() ? std::wstring() : failures.front().second;
+    // The diagnostic line is not translated.
+    std::wstring text = System::Detail::Formatter(L"Implementation '%1%' failed. Reason: '%2%' (function: %3% - %4%)") %
+                        implementation.Name().Value() % reason % name % std::string(signature);
+    Diagnostic::OutputDebugString(text);
+}
+
+Pointer<IException, 1> Function::StandardFailure(const std::exception& failure, const char* signature)
+{
+    return System::Detail::MakeException(signature, __FILE__, __LINE__, L"STL exception: %1%",
+                                         std::string(failure.what()));
+}
+
+Pointer<IException, 1> Function::UnknownFailure(const char* signature)
+{
+    return System::Detail::MakeException(signature, __FILE__, __LINE__, L"Unknown exception");
+}
+
+void Function::RaiseFailed(Pointer<IException, 0> lastError, const Rules::RuleFailures& failures,
+                           const char* signature, const char* file, int line)
+{
+    if (!lastError) {
+        // Every implementation was refused by its rules: the first complaint
+        // of the last one tried. Its text is already translated.
+        std::wstring text = failures.empty() ? std::wstring() : failures.front().second;
+        lastError = System::Detail::MakeReported(System::Detail::Formatter(
+            text, System::Detail::ToStringLenient(signature), System::Detail::ToStringLenient(file), line));
+    }
+    Pointer<IException, 1> error(lastError);
+    // Reported once more, on purpose, even when it was made just above.
+    Library::ErrorManager()->SetLastError(error);
+    throw error;
+}
+
+} // namespace Detail
+
+} // namespace Quilon_::System::Functions

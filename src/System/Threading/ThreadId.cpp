@@ -1,0 +1,14 @@
+#include "Quilon_/System/Threading/ThreadId.h"
+
+#include <sys/syscall.h>
+#include <unistd.h>
+
+namespace Quilon_::System::Threading {
+
+std::uint32_t CurrentThreadId()
+{
+    thread_local const std::uint32_t id = static_cast<std::uint32_t>(::syscall(SYS_gettid));
+    return id;
+}
+
+} // namespace Quilon_::System::Threading

@@ -1,0 +1,59 @@
+// quilon: the command-line tool of the toolkit, an application of the core
+// library linked like any other.
+//
+//   quilon version    the library version and its initialisation state
+//   quilon demo       one operator call through the frame, end to end
+
+#include "Commands.h"
+
+#include "Quilon_/System/Exception.h"
+
+#include <cstdio>
+#include <cstring>
+#include <exception>
+
+namespace {
+
+struct Command {
+    const char* name;
+    int (*run)(const Quilon_::Tool::Arguments&);
+    const char* summary;
+};
+
+const Command commands[] = {
+    {"version", &Quilon_::Tool::Version, "print the library version and the initialisation state"},
+    {"demo", &Quilon_::Tool::Demo, "call an operator through the frame and show what happens"},
+};
+
+void PrintUsage(std::FILE* out)
+{
+    std::fputs("usage: quilon <command> [arguments]\n\ncommands:\n", out);
+    for (const Command& command : commands)
+        std::fprintf(out, "  %-10s %s\n", command.name, command.summary);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    if (argc < 2 || std::strcmp(argv[1], "--help") == 0 || std::strcmp(argv[1], "-h") == 0) {
+        PrintUsage(argc < 2 ? stderr : stdout);
+        return argc < 2 ? 2 : 0;
+    }
+    for (const Command& command : commands) {
+        if (std::strcmp(argv[1], command.name) != 0)
+            continue;
+        try {
+            return command.run(Quilon_::Tool::Arguments(argv + 2, argv + argc));
+        } catch (const Quilon_::System::Pointer<Quilon_::System::IException, 1>& failure) {
+            std::fprintf(stderr, "quilon: %ls\n  at %ls:%lld\n", failure->Message().c_str(), failure->File().c_str(),
+                         static_cast<long long>(failure->Line()));
+        } catch (const std::exception& failure) {
+            std::fprintf(stderr, "quilon: %s\n", failure.what());
+        }
+        return 1;
+    }
+    std::fprintf(stderr, "quilon: unknown command '%s'\n", argv[1]);
+    PrintUsage(stderr);
+    return 2;
+}
