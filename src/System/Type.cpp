@@ -4,6 +4,8 @@
 #include "Quilon_/System/TypeDictionary.h"
 #include "System/TypeDictionaryImpl.h"
 
+#include <algorithm>
+
 namespace Quilon_::System {
 
 Type::TypeHolder::~TypeHolder() = default;
@@ -41,8 +43,20 @@ void Type::AddBase(const Type& base)
 
 bool Type::IsSubclassOf(const Type& other) const
 {
-    for (const Type& base : BaseTypes()) {
-        if (base == other || base.IsSubclassOf(other))
+    std::vector<const TypeHolder*> walked;
+    return IsSubclassOf(other, walked);
+}
+
+// AddBase accepts a type as its own base, which puts a loop into the graph of
+// bases; each description is therefore walked once, so that the answer for a
+// type outside the loop is false instead of an endless walk.
+bool Type::IsSubclassOf(const Type& other, std::vector<const TypeHolder*>& walked) const
+{
+    if (!m_holder || std::find(walked.begin(), walked.end(), m_holder.get()) != walked.end())
+        return false;
+    walked.push_back(m_holder.get());
+    for (const Type& base : m_holder->bases) {
+        if (base == other || base.IsSubclassOf(other, walked))
             return true;
     }
     return false;
@@ -79,14 +93,12 @@ Detail::CTypeDictionary& TypeStore()
 
 // Registration reaches the store directly: an interface cast here would ask
 // for the type of the internal interface, which may be the very type being
-// registered.
+// registered. The test for the name and the insertion are one step under the
+// dictionary's lock, so that of two threads registering one name the first
+// stays.
 void Type::Register(const Type& type)
 {
-    std::wstring name = type.Name();
-    Detail::CTypeDictionary& types = TypeStore();
-    if (types.ContainsKey(name))
-        return;
-    types.Store().emplace(std::move(name), type);
+    TypeStore().AddIfAbsent(type.Name(), type);
 }
 
 Pointer<ITypeDictionary, 1> Type::Types()

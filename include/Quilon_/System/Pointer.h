@@ -165,7 +165,14 @@ public:
     }
     Pointer& operator=(T* value)
     {
-        Replace(Acquire(value, true));
+        if constexpr (N == 2) {
+            // The value is cloned, since others may hold it; a reference held
+            // meanwhile frees it afterwards when nobody does (a fresh object).
+            Pointer<T, 0> original(value);
+            Replace(Acquire(value, true));
+        } else {
+            Replace(Acquire(value, true));
+        }
         return *this;
     }
     Pointer& operator=(std::nullptr_t)

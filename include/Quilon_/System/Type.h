@@ -97,6 +97,8 @@ public:
 
 private:
     explicit Type(boost::shared_ptr<TypeHolder> holder);
+    // IsSubclassOf, skipping the descriptions already walked.
+    bool IsSubclassOf(const Type& other, std::vector<const TypeHolder*>& walked) const;
     // Adds the type to Types() unless its name is there already.
     static void Register(const Type& type);
 

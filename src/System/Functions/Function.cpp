@@ -153,15 +153,18 @@ void Function::TraceSkipped(const Implementation& implementation, const Rules::R
     Diagnostic::OutputDebugString(text);
 }
 
-Pointer<IException, 1> Function::StandardFailure(const std::exception& failure, const char* signature)
+Pointer<IException, 1> Function::CaughtFailure(const char* signature)
 {
-    return System::Detail::MakeException(signature, __FILE__, __LINE__, L"STL exception: %1%",
-                                         std::string(failure.what()));
-}
-
-Pointer<IException, 1> Function::UnknownFailure(const char* signature)
-{
-    return System::Detail::MakeException(signature, __FILE__, __LINE__, L"Unknown exception");
+    try {
+        throw;
+    } catch (const Pointer<IException, 1>& failure) {
+        return failure;
+    } catch (const std::exception& failure) {
+        return System::Detail::MakeException(signature, __FILE__, __LINE__, L"STL exception: %1%",
+                                             std::string(failure.what()));
+    } catch (...) {
+        return System::Detail::MakeException(signature, __FILE__, __LINE__, L"Unknown exception");
+    }
 }
 
 void Function::RaiseFailed(Pointer<IException, 0> lastError, const Rules::RuleFailures& failures,

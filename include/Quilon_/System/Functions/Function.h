@@ -141,10 +141,11 @@ protected:
     // Writes the skip to the debugger output while diagnostics are enabled.
     void TraceSkipped(const Implementation& implementation, const Rules::RuleFailures& failures,
                       const char* signature) const;
-    // Failures of implementations that are not IExceptions, turned into
-    // recorded exceptions.
-    static Pointer<IException, 1> StandardFailure(const std::exception& failure, const char* signature);
-    static Pointer<IException, 1> UnknownFailure(const char* signature);
+    // The exception being handled, as the failure of an implementation: an
+    // IException as it is (it has been reported by whoever raised it); a
+    // std::exception or anything else turned into a reported exception. Only
+    // to be called from a handler.
+    static Pointer<IException, 1> CaughtFailure(const char* signature);
     // The end of a call in which every implementation failed.
     [[noreturn]] static void RaiseFailed(Pointer<IException, 0> lastError, const Rules::RuleFailures& failures,
                                          const char* signature, const char* file, int line);
@@ -178,15 +179,21 @@ struct ResultOf<void> {
     void Take() {}
 };
 
-// Passes an argument on as its parameter type asks: by-value parameters as
-// copies, so that a later implementation gets the caller's values again.
+// Passes an argument on as its parameter type asks. A by-value parameter
+// gets a copy, so that a later implementation gets the caller's value
+// again; with `last`, when no implementation comes after this one, it gets
+// the value itself, which spares a Pointer argument its reference count.
 template <class A, class V>
-decltype(auto) PassOn(V& value)
+A PassOn(V& value, bool last)
 {
     if constexpr (std::is_rvalue_reference_v<A>)
         return std::move(value);
+    else if constexpr (std::is_reference_v<A> || std::is_trivially_copyable_v<A>)
+        return value;
+    else if (last)
+        return std::move(value);
     else
-        return static_cast<V&>(value);
+        return value;
 }
 
 template <class A>
@@ -260,35 +267,27 @@ public:
     // For start-up code that sets an implementation's own rules.
     std::vector<Implementation>& Implementations() { return implementations; }
 
-    R operator()(A... arguments) const
+    // The implementation registered last is called directly when neither it
+    // nor the function has rules and no index is selected: one size check,
+    // two flag tests and the indirect call, small enough to be inlined at
+    // the call site. Everything else, and the fall-back when it fails, is
+    // in Dispatch, out of line.
+    [[gnu::always_inline]] R operator()(A... arguments) const
     {
-        if (implementations.empty()) [[unlikely]]
-            FunctionN::CheckImplemented(true);
-        std::size_t first = 0;
-        std::size_t last = implementations.size() - 1;
-        if (NextRunImplementation() >= 0) [[unlikely]]
-            SelectImplementation(implementations.size(), first, last);
-
-        Rules::RuleFailures failures;
-        Pointer<IException, 0> lastError;
-        for (std::size_t index = first; index <= last; ++index) {
-            try {
-                failures.clear();
-                const Implementation& implementation = implementations[index];
-                if (!HasRules(implementation)) [[likely]]
-                    return implementation.function(Detail::PassOn<A>(arguments)...);
-                std::optional<Detail::ResultOf<R>> result = CallWithRules(implementation, failures, arguments...);
-                if (result)
-                    return result->Take();
-            } catch (const Pointer<IException, 1>& failure) {
-                lastError = failure;
-            } catch (const std::exception& failure) {
-                lastError = StandardFailure(failure, QUILON_FUNCTION);
-            } catch (...) {
-                lastError = UnknownFailure(QUILON_FUNCTION);
+        if (!implementations.empty() && NextRunImplementation() < 0) [[likely]] {
+            const Implementation& implementation = implementations.front();
+            if (!HasRules(implementation)) [[likely]] {
+                Pointer<IException, 0> failure;
+                try {
+                    [[maybe_unused]] const bool last = implementations.size() == 1;
+                    return implementation.function(Detail::PassOn<A>(arguments, last)...);
+                } catch (...) {
+                    failure = CaughtFailure(QUILON_FUNCTION);
+                }
+                return Dispatch(1, std::move(failure), arguments...);
             }
         }
-        RaiseFailed(lastError, failures, QUILON_FUNCTION, __FILE__, __LINE__);
+        return Dispatch(0, nullptr, arguments...);
     }
 
     // Writes the skipped implementation to the debugger output while
@@ -335,6 +334,34 @@ public:
     };
 
 private:
+    // The walk over the implementations from `first` on; `lastError` is the
+    // failure of those before it. From the start (`first` 0) it checks that
+    // there is an implementation and takes the selected index.
+    [[gnu::noinline]] R Dispatch(std::size_t first, Pointer<IException, 0> lastError, A&... arguments) const
+    {
+        if (implementations.empty())
+            FunctionN::CheckImplemented(true);
+        std::size_t last = implementations.size() - 1;
+        if (first == 0 && NextRunImplementation() >= 0)
+            SelectImplementation(implementations.size(), first, last);
+
+        Rules::RuleFailures failures;
+        for (std::size_t index = first; index <= last; ++index) {
+            try {
+                failures.clear();
+                const Implementation& implementation = implementations[index];
+                if (!HasRules(implementation))
+                    return implementation.function(Detail::PassOn<A>(arguments, index == last)...);
+                std::optional<Detail::ResultOf<R>> result = CallWithRules(implementation, failures, arguments...);
+                if (result)
+                    return result->Take();
+            } catch (...) {
+                lastError = CaughtFailure(QUILON_FUNCTION);
+            }
+        }
+        RaiseFailed(lastError, failures, QUILON_FUNCTION, __FILE__, __LINE__);
+    }
+
     // The path with rules for one implementation: box, run Check, Make,
     // Check, PreExecute, read the arguments back, call, run PostExecute.
     // Empty when a rule refused the implementation.
@@ -371,7 +398,7 @@ private:
                             Detail::ResultOf<R>& result, std::index_sequence<I...>, A&... arguments)
     {
         std::tuple<Detail::Unboxed<A>...> values(boxed[I].template CastTo<Detail::Unboxed<A>>()...);
-        result.Call([&]() -> R { return implementation.function(Detail::PassOn<A>(std::get<I>(values))...); });
+        result.Call([&]() -> R { return implementation.function(Detail::PassOn<A>(std::get<I>(values), true)...); });
         (StoreOutput<A>(std::get<I>(values), arguments, boxed[I]), ...);
     }
 

@@ -1,0 +1,37 @@
+// The exception that a piece of code raises, for asserting messages:
+//
+//   EXPECT_EQ(Tests::Raised([&] { any.CastTo<int>(); })->Message(), L"...");
+#pragma once
+
+#include "Quilon_/System/Exception.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <utility>
+
+namespace Quilon_::Tests {
+
+// What `code` throws as Pointer<IException,1>; null, and a test failure,
+// when it returns normally.
+template <class Code>
+System::Pointer<System::IException, 0> Raised(Code&& code)
+{
+    try {
+        code();
+    } catch (const System::Pointer<System::IException, 1>& exception) {
+        return exception;
+    }
+    ADD_FAILURE() << "expected a raised IException";
+    return nullptr;
+}
+
+// The message of what `code` raises; empty when it raises nothing.
+template <class Code>
+std::wstring RaisedMessage(Code&& code)
+{
+    System::Pointer<System::IException, 0> exception = Raised(std::forward<Code>(code));
+    return exception ? exception->Message() : std::wstring();
+}
+
+} // namespace Quilon_::Tests
