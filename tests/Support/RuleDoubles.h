@@ -28,7 +28,10 @@ class LambdaRule : public System::Template::ObjectImpl<LambdaRule, IRule> {
 public:
     using Body = std::function<bool(std::vector<Any>&, RuleFailures&)>;
     explicit LambdaRule(Body body) : m_body(std::move(body)) {}
-    bool Apply(std::vector<Any>& arguments, RuleFailures& failures) override { return m_body(arguments, failures); }
+    bool Apply(std::vector<Any>& arguments, RuleFailures& failures) override
+    {
+        return m_body(arguments, failures);
+    }
 
 private:
     Body m_body;

@@ -1,6 +1,6 @@
 // Boxed values: what CastTo accepts, and its failures.
-#include "Quilon_/Library.h"
 #include "Quilon_/System/Any.h"
+#include "Quilon_/Library.h"
 #include "Quilon_/System/ObjectImpl.h"
 #include "Quilon_/System/Type.h"
 

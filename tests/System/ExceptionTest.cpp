@@ -5,6 +5,7 @@
 #include "Quilon_/System/Type.h"
 
 #include "../Support/MapTranslator.h"
+#include "../Support/Raised.h"
 
 #include <gtest/gtest.h>
 
@@ -31,17 +32,6 @@ int raisedLine = 0;
 {
     raisedLine = __LINE__ + 1;
     QUILON_RAISE(L"Between %1% and %2%", 1);
-}
-
-template <class F>
-Pointer<IException, 0> Raised(F raise)
-{
-    try {
-        raise();
-    } catch (const Pointer<IException, 1>& e) {
-        return e;
-    }
-    return nullptr;
 }
 
 // Each test starts and ends with no last error on the main thread.

@@ -3,6 +3,7 @@
 #include "Quilon_/System/String.h"
 
 #include "../Support/MapTranslator.h"
+#include "../Support/Raised.h"
 
 #include <gtest/gtest.h>
 
@@ -12,16 +13,15 @@ namespace Quilon_::Tests::StringTests {
 
 using namespace Quilon_::System;
 
+// The message of a failed conversion, which is raised by the conversion.
 template <class F>
-std::wstring RaisedMessage(F convert)
+std::wstring ConversionFailure(F convert)
 {
-    try {
-        convert();
-    } catch (const Pointer<IException, 1>& e) {
-        EXPECT_EQ(e->File(), L"System/String.cpp");
-        return e->Message();
-    }
-    return L"(nothing raised)";
+    Pointer<IException, 0> e = Raised(convert);
+    if (!e)
+        return L"";
+    EXPECT_EQ(e->File(), L"System/String.cpp");
+    return e->Message();
 }
 
 // ---------------------------------------------------------------------------
@@ -92,7 +92,7 @@ TEST(StringConversion, MalformedUtf8Raises)
     };
     for (const char* text : malformed) {
         SCOPED_TRACE(testing::PrintToString(std::string(text)));
-        EXPECT_EQ(RaisedMessage([&] { ToString(text); }), L"MultiByteToWideChar failed (error code = 84)");
+        EXPECT_EQ(ConversionFailure([&] { ToString(text); }), L"MultiByteToWideChar failed (error code = 84)");
     }
 }
 
@@ -102,7 +102,7 @@ TEST(StringConversion, WideTextThatIsNoUnicodeRaises)
         std::wstring text = L"ok";
         text += value;
         SCOPED_TRACE(static_cast<unsigned>(value));
-        EXPECT_EQ(RaisedMessage([&] { ToAnsi(text); }), L"WideCharToMultiByte failed (error code = 84)");
+        EXPECT_EQ(ConversionFailure([&] { ToAnsi(text); }), L"WideCharToMultiByte failed (error code = 84)");
     }
 }
 

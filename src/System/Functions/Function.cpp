@@ -77,7 +77,8 @@ Function::Function(const std::wstring& name) : name(name), rules(RuleTypeCount) 
 
 Function::Function(const Function& other)
     : name(other.name), description(other.description), rules(other.rules),
-      nextRunImplementation(other.nextRunImplementation.load(std::memory_order_relaxed)), hasRules(other.hasRules)
+      nextRunImplementation(other.nextRunImplementation.load(std::memory_order_relaxed)),
+      hasRules(other.hasRules)
 {
 }
 
@@ -105,8 +106,8 @@ void Function::SetNextRunImplementation(std::int64_t index)
     nextRunImplementation.store(index, std::memory_order_relaxed);
 }
 
-bool Function::ApplyRules(RuleTypeEnum type, const Implementation& implementation, std::vector<Any>& arguments,
-                          Rules::RuleFailures& failures) const
+bool Function::ApplyRules(RuleTypeEnum type, const Implementation& implementation,
+                          std::vector<Any>& arguments, Rules::RuleFailures& failures) const
 {
     static const Pointer<Rules::IRuleCollection, 0> none;
     const auto& functionRules =
@@ -137,8 +138,8 @@ void Function::SelectImplementation(std::size_t count, std::size_t& first, std::
 
 void Function::RaiseNotImplemented(const char* signature, const char* file, int line) const
 {
-    System::Detail::Raise(signature, file, line, L"No implementation available for function '%1%' (%2%)", name,
-                          std::string(signature));
+    System::Detail::Raise(signature, file, line, L"No implementation available for function '%1%' (%2%)",
+                          name, std::string(signature));
 }
 
 void Function::TraceSkipped(const Implementation& implementation, const Rules::RuleFailures& failures,
@@ -148,8 +149,9 @@ void Function::TraceSkipped(const Implementation& implementation, const Rules::R
         return;
     std::wstring reason = failures.empty() ? std::wstring() : failures.front().second;
     // The diagnostic line is not translated.
-    std::wstring text = System::Detail::Formatter(L"Implementation '%1%' failed. Reason: '%2%' (function: %3% - %4%)") %
-                        implementation.Name().Value() % reason % name % std::string(signature);
+    std::wstring text =
+        System::Detail::Formatter(L"Implementation '%1%' failed. Reason: '%2%' (function: %3% - %4%)") %
+        implementation.Name().Value() % reason % name % std::string(signature);
     Diagnostic::OutputDebugString(text);
 }
 

@@ -44,8 +44,13 @@ namespace {
 using namespace Quilon_;
 using namespace Quilon_::System;
 using namespace Quilon_::System::Functions;
+using Functions::Template::Function;
 using Quilon_::Tests::FunctionRules::CValue;
 using Quilon_::Tests::FunctionRules::IValue;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::StartsWith;
 using Tests::Log;
 using Tests::RaisedMessage;
 using Tests::Record;
@@ -53,11 +58,6 @@ using Tests::Refuse;
 using Tests::Rule;
 using Tests::RuleFailures;
 using Tests::Rules;
-using Functions::Template::Function;
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
-using ::testing::StartsWith;
 
 // What rules and implementations did, in order.
 Log events = std::make_shared<std::vector<std::string>>();
@@ -85,7 +85,7 @@ protected:
     void TearDown() override { Library::ErrorManager()->TakeLastError(); }
 };
 
-TEST_F(FunctionRules, ChainsRunCheckMakeCheckPreExecuteAroundTheCallFunctionBeforeImplementation)
+TEST_F(FunctionRules, ChainsRunInOrderAroundTheCallFunctionRulesBeforeOwn)
 {
     Function<int (*)(int)> op(L"Ordered");
     op.Register(L"Only", &Plain);
@@ -97,8 +97,9 @@ TEST_F(FunctionRules, ChainsRunCheckMakeCheckPreExecuteAroundTheCallFunctionBefo
     }
 
     EXPECT_EQ(op(5), 5);
-    EXPECT_THAT(*events, ElementsAre("function check", "own check", "function make", "own make", "function check",
-                                     "own check", "function pre", "own pre", "call", "function post", "own post"));
+    EXPECT_THAT(*events,
+                ElementsAre("function check", "own check", "function make", "own make", "function check",
+                            "own check", "function pre", "own pre", "call", "function post", "own post"));
 }
 
 TEST_F(FunctionRules, FunctionRefusalLeavesTheImplementationsOwnRulesUnrun)
@@ -321,8 +322,9 @@ TEST_F(FunctionDiagnostics, EachImplementationSkippedByRulesIsWrittenWhileEnable
     EXPECT_TRUE(Functions::Function::DiagnosticEnabled());
     EXPECT_EQ(op(3), 3);
     ASSERT_EQ(lines.size(), 1u);
-    EXPECT_THAT(lines[0],
-                StartsWith(L"Implementation 'Fast' failed. Reason: 'Argument #1 must be even' (function: Halve - "));
+    EXPECT_THAT(
+        lines[0],
+        StartsWith(L"Implementation 'Fast' failed. Reason: 'Argument #1 must be even' (function: Halve - "));
     EXPECT_THAT(lines[0], HasSubstr(L"SkipImplementation"));
 
     // An implementation that raises is not skipped by rules and not written.

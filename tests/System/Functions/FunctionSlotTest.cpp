@@ -1,6 +1,6 @@
 // Registered functions: a plain function-pointer slot behind a free function.
-#include "Quilon_/Library.h"
 #include "Quilon_/System/Functions/FunctionSlot.h"
+#include "Quilon_/Library.h"
 
 #include "../../Support/Raised.h"
 

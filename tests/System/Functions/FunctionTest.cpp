@@ -1,7 +1,7 @@
 // Dispatch of operator objects: which implementation runs, in which order,
 // and what the caller gets when they fail.
-#include "Quilon_/Library.h"
 #include "Quilon_/System/Functions/Function.h"
+#include "Quilon_/Library.h"
 #include "Quilon_/System/Raise.h"
 
 #include "../../Support/Raised.h"
@@ -20,14 +20,14 @@ using namespace Quilon_;
 using namespace Quilon_::System;
 using Functions::rtCheck;
 using Functions::Template::Function;
-using Tests::Raised;
-using Tests::RaisedMessage;
-using Tests::Refuse;
-using Tests::Rules;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::StartsWith;
+using Tests::Raised;
+using Tests::RaisedMessage;
+using Tests::Refuse;
+using Tests::Rules;
 
 // Implementations are plain functions; they note their calls here.
 std::vector<std::string> calls;
@@ -140,7 +140,8 @@ TEST_F(FunctionDispatch, WhenAllAreRefusedTheFirstComplaintOfTheLastTriedIsThrow
     auto op = twoOf(&First, &Second);
     // Index 1 is "First", registered first and so tried last. Its collection
     // stops at its first refusal.
-    op.Implementations()[1].SetRules(rtCheck, Rules({Refuse(0, L"First: #1 too small"), Refuse(0, L"never")}));
+    op.Implementations()[1].SetRules(rtCheck,
+                                     Rules({Refuse(0, L"First: #1 too small"), Refuse(0, L"never")}));
     op.Implementations()[0].SetRules(rtCheck, Rules({Refuse(0, L"Second: #1 odd")}));
 
     Pointer<IException, 0> thrown = Raised([&] { op(3); });

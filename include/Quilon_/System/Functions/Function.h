@@ -117,7 +117,10 @@ public:
     // The next call runs only the implementation of `index`. A one-shot,
     // consumed by that call; not guarded against other threads.
     void SetNextRunImplementation(std::int64_t index);
-    std::int64_t NextRunImplementation() const { return nextRunImplementation.load(std::memory_order_relaxed); }
+    std::int64_t NextRunImplementation() const
+    {
+        return nextRunImplementation.load(std::memory_order_relaxed);
+    }
 
     // Runs the function's collection of `type` (unless the implementation
     // ignores it), then the implementation's own; false at the first that
@@ -131,8 +134,8 @@ protected:
         return hasRules || implementation.HasOwnRules();
     }
     bool ApplyRules(const Pointer<Rules::IRuleCollection, 0>& functionRules,
-                    const Pointer<Rules::IRuleCollection, 0>& implementationRules, std::vector<Any>& arguments,
-                    Rules::RuleFailures& failures) const;
+                    const Pointer<Rules::IRuleCollection, 0>& implementationRules,
+                    std::vector<Any>& arguments, Rules::RuleFailures& failures) const;
 
     // Consumes the selection of SetNextRunImplementation and narrows
     // [first, last] to it; raises when it is out of range.
@@ -147,8 +150,9 @@ protected:
     // to be called from a handler.
     static Pointer<IException, 1> CaughtFailure(const char* signature);
     // The end of a call in which every implementation failed.
-    [[noreturn]] static void RaiseFailed(Pointer<IException, 0> lastError, const Rules::RuleFailures& failures,
-                                         const char* signature, const char* file, int line);
+    [[noreturn]] static void RaiseFailed(Pointer<IException, 0> lastError,
+                                         const Rules::RuleFailures& failures, const char* signature,
+                                         const char* file, int line);
 
 private:
     std::wstring name;
@@ -201,7 +205,8 @@ using Unboxed = std::remove_cvref_t<A>;
 
 // A parameter through which the implementation hands a value back.
 template <class A>
-inline constexpr bool IsOutput = std::is_lvalue_reference_v<A> && !std::is_const_v<std::remove_reference_t<A>>;
+inline constexpr bool IsOutput =
+    std::is_lvalue_reference_v<A> && !std::is_const_v<std::remove_reference_t<A>>;
 
 } // namespace Detail
 
@@ -260,7 +265,8 @@ public:
     // Removes every registration of `function`, for a library that goes away.
     void Unregister(FunctionPointer function)
     {
-        std::erase_if(implementations, [function](const Implementation& i) { return i.function == function; });
+        std::erase_if(implementations,
+                      [function](const Implementation& i) { return i.function == function; });
     }
 
     const std::vector<Implementation>& Implementations() const { return implementations; }
@@ -328,8 +334,8 @@ public:
     private:
         [[noreturn]] static void RaisePostExecutionFailure(const std::wstring& text)
         {
-            System::Detail::Throw(System::Detail::MakeReported(System::Detail::Formatter(
-                text, ToString(QUILON_FUNCTION), ToString(__FILE__), __LINE__)));
+            System::Detail::Throw(System::Detail::MakeReported(
+                System::Detail::Formatter(text, ToString(QUILON_FUNCTION), ToString(__FILE__), __LINE__)));
         }
     };
 
@@ -352,7 +358,8 @@ private:
                 const Implementation& implementation = implementations[index];
                 if (!HasRules(implementation))
                     return implementation.function(Detail::PassOn<A>(arguments, index == last)...);
-                std::optional<Detail::ResultOf<R>> result = CallWithRules(implementation, failures, arguments...);
+                std::optional<Detail::ResultOf<R>> result =
+                    CallWithRules(implementation, failures, arguments...);
                 if (result)
                     return result->Take();
             } catch (...) {
@@ -398,7 +405,8 @@ private:
                             Detail::ResultOf<R>& result, std::index_sequence<I...>, A&... arguments)
     {
         std::tuple<Detail::Unboxed<A>...> values(boxed[I].template CastTo<Detail::Unboxed<A>>()...);
-        result.Call([&]() -> R { return implementation.function(Detail::PassOn<A>(std::get<I>(values), true)...); });
+        result.Call(
+            [&]() -> R { return implementation.function(Detail::PassOn<A>(std::get<I>(values), true)...); });
         (StoreOutput<A>(std::get<I>(values), arguments, boxed[I]), ...);
     }
 

@@ -46,18 +46,21 @@ private:
 
 // The pointer type is spelled through type_identity_t, since a declarator
 // cannot follow a function-pointer type written out as "R (*)(A...)".
-#define QUILON_DECLARE_FUNCTION_SLOT(Name, Number, ...)                                          \
-    QUILON_API void Set##Name##Function##Number(::std::type_identity_t<__VA_ARGS__> function);  \
+#define QUILON_DECLARE_FUNCTION_SLOT(Name, Number, ...)                                                      \
+    QUILON_API void Set##Name##Function##Number(::std::type_identity_t<__VA_ARGS__> function);               \
     QUILON_API bool Name##Function##Number##IsImplemented()
 
-#define QUILON_DEFINE_FUNCTION_SLOT(Name, Number, ...)                                           \
-    constinit ::Quilon_::System::Functions::Detail::FunctionSlot<__VA_ARGS__> Name##Function##Number##Slot; \
-    void Set##Name##Function##Number(::std::type_identity_t<__VA_ARGS__> function)               \
-    {                                                                                            \
-        Name##Function##Number##Slot.Set(function);                                              \
-    }                                                                                            \
-    bool Name##Function##Number##IsImplemented() { return Name##Function##Number##Slot.IsImplemented(); }
+#define QUILON_DEFINE_FUNCTION_SLOT(Name, Number, ...)                                                       \
+    constinit ::Quilon_::System::Functions::Detail::FunctionSlot<__VA_ARGS__> Name##Function##Number##Slot;  \
+    void Set##Name##Function##Number(::std::type_identity_t<__VA_ARGS__> function)                           \
+    {                                                                                                        \
+        Name##Function##Number##Slot.Set(function);                                                          \
+    }                                                                                                        \
+    bool Name##Function##Number##IsImplemented()                                                             \
+    {                                                                                                        \
+        return Name##Function##Number##Slot.IsImplemented();                                                 \
+    }
 
 // The slot's pointer, checked, inside the body of the registered function.
-#define QUILON_FUNCTION_SLOT(Name, Number)                                                       \
+#define QUILON_FUNCTION_SLOT(Name, Number)                                                                   \
     Name##Function##Number##Slot.Checked(QUILON_FUNCTION, __FILE__, __LINE__)
