@@ -1,6 +1,7 @@
-// Small objects for the suites of the object kernel: two unrelated
-// interfaces, a concrete class that counts its destructions, and a cloneable
-// one that counts its clones.
+// Small objects shared by the suites of the object kernel: two unrelated
+// interfaces, a concrete class that counts its destructions, one that has
+// both interfaces, a cloneable one, and a trace manager that keeps what is
+// traced.
 //
 //   int destructions = 0;
 //   auto* thing = new Tests::Kernel::CThing(&destructions);
@@ -8,10 +9,13 @@
 #pragma once
 
 #include "Quilon_/System/Cloneable.h"
+#include "Quilon_/System/Diagnostic/TraceManager.h"
 #include "Quilon_/System/ObjectImpl.h"
 
-#include <cstdint>
 #include <functional>
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace Quilon_::Tests::Kernel {
 
@@ -48,14 +52,18 @@ private:
     int m_value;
 };
 
+// Implements IThing (1) and IOther (2).
+class CBoth : public System::Template::ObjectImpl<CBoth, IThing, IOther> {
+public:
+    int Value() override { return 1; }
+    int Other() override { return 2; }
+};
+
 // Implements IThing and System::ICloneable; each clone carries the value
-// and the counters, and counts itself in `clones`.
+// and the destruction counter.
 class CCloneableThing : public System::Template::ObjectImpl<CCloneableThing, IThing, System::ICloneable> {
 public:
-    CCloneableThing(int value, int* clones = nullptr, int* destructions = nullptr)
-        : m_value(value), m_clones(clones), m_destructions(destructions)
-    {
-    }
+    explicit CCloneableThing(int value, int* destructions = nullptr) : m_value(value), m_destructions(destructions) {}
     ~CCloneableThing() override
     {
         if (m_destructions)
@@ -64,15 +72,28 @@ public:
     int Value() override { return m_value; }
     System::Pointer<System::ICloneable, 1> Clone() override
     {
-        if (m_clones)
-            ++*m_clones;
-        return System::Pointer<System::ICloneable, 1>(new CCloneableThing(m_value, m_clones, m_destructions));
+        return System::Pointer<System::ICloneable, 1>(new CCloneableThing(m_value, m_destructions));
     }
 
 private:
     int m_value;
-    int* m_clones;
     int* m_destructions;
+};
+
+// Keeps each traced (message, category).
+class CRecordingTrace : public System::Template::ObjectImpl<CRecordingTrace, System::Diagnostic::ITraceManager> {
+public:
+    void Trace(const std::wstring& message, const std::wstring& category, const std::wstring&, const std::wstring&,
+               std::int64_t) override
+    {
+        traced.emplace_back(message, category);
+    }
+    void Trace(const std::wstring& message, const std::wstring& category) override
+    {
+        traced.emplace_back(message, category);
+    }
+
+    std::vector<std::pair<std::wstring, std::wstring>> traced;
 };
 
 } // namespace Quilon_::Tests::Kernel

@@ -1,6 +1,6 @@
 // The exception that a piece of code raises, for asserting messages:
 //
-//   EXPECT_EQ(Tests::Raised([&] { any.CastTo<int>(); })->Message(), L"...");
+//   EXPECT_EQ(Tests::RaisedMessage([&] { any.CastTo<int>(); }), L"...");
 #pragma once
 
 #include "Quilon_/System/Exception.h"
@@ -8,7 +8,6 @@
 #include <gtest/gtest.h>
 
 #include <string>
-#include <utility>
 
 namespace Quilon_::Tests {
 
@@ -30,7 +29,7 @@ System::Pointer<System::IException, 0> Raised(Code&& code)
 template <class Code>
 std::wstring RaisedMessage(Code&& code)
 {
-    System::Pointer<System::IException, 0> exception = Raised(std::forward<Code>(code));
+    System::Pointer<System::IException, 0> exception = Raised(code);
     return exception ? exception->Message() : std::wstring();
 }
 

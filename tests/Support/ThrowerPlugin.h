@@ -6,7 +6,6 @@
 // dlsym, and reaches IGreeter's Type only through QuilonTestThrower_GreeterType.
 #pragma once
 
-#include "Quilon_/System/Any.h"
 #include "Quilon_/System/Pointer.h"
 
 #include <string>
@@ -22,19 +21,11 @@ public:
 namespace ThrowerPlugin {
 // Raises "Plug-in failure: '%1%'" with `value`, by the raising sequence.
 using Raise = void (*)(const wchar_t* value);
-// Throws a cancellation, as Pointer<IException,1>.
-using Cancel = void (*)();
-// Makes a greeter that is also ICloneable and IEquatable. The result carries
-// one reference for the caller.
+// Makes a greeter that is also ICloneable. The result carries one reference
+// for the caller.
 using MakeGreeter = System::Interface* (*)(const wchar_t* greeting);
 // IGreeter::GetType() as the plug-in has it.
 using GreeterType = const System::Type* (*)();
-// Whether the plug-in's interface cast finds ICloneable on `object`.
-using IsCloneable = bool (*)(System::Interface* object);
-// Boxes `value` and a new greeter into `number` and `object`.
-using Box = void (*)(std::int64_t value, System::Any* number, System::Any* object);
-// Converts invalid UTF-8 in the core and returns the message it caught.
-using CatchFromCore = void (*)(std::wstring* message);
 } // namespace ThrowerPlugin
 
 } // namespace Quilon_::Tests

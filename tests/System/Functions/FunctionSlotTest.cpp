@@ -4,10 +4,10 @@
 
 #include "../../Support/Raised.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <stdexcept>
+#include <string>
 
 namespace Quilon_::Tests::FunctionSlots {
 
@@ -20,57 +20,23 @@ double Area(double width, double height)
     return QUILON_FUNCTION_SLOT(Area, 1)(width, height);
 }
 
-} // namespace Quilon_::Tests::FunctionSlots
-
-namespace {
-
-using namespace Quilon_;
-using namespace Quilon_::Tests::FunctionSlots;
-using ::testing::HasSubstr;
-
-double Rectangle(double width, double height)
-{
-    return width * height;
-}
-
-double Refusing(double, double)
-{
-    throw std::domain_error("negative side");
-}
-
-class FunctionSlot : public ::testing::Test {
-protected:
-    void TearDown() override
-    {
-        SetAreaFunction1(nullptr);
-        Library::ErrorManager()->TakeLastError();
-    }
-};
-
-TEST_F(FunctionSlot, EmptySlotRaisesInTheNameOfTheFunction)
+TEST(FunctionSlot, ForwardsToWhatIsSetAndRaisesWhenEmpty)
 {
     EXPECT_FALSE(AreaFunction1IsImplemented());
-    System::Pointer<System::IException, 0> thrown = Tests::Raised([] { Area(2, 3); });
-    ASSERT_TRUE(thrown);
+    System::Pointer<System::IException, 0> thrown = Raised([] { Area(2, 3); });
     EXPECT_EQ(thrown->Message(), L"Function has no implementation");
-    EXPECT_THAT(thrown->Function(), HasSubstr(L"Area"));
-}
+    EXPECT_NE(thrown->Function().find(L"Area"), std::wstring::npos);
 
-TEST_F(FunctionSlot, SetSlotForwardsAndNullMakesItUnimplementedAgain)
-{
-    SetAreaFunction1(&Rectangle);
+    SetAreaFunction1(+[](double width, double height) { return width * height; });
     EXPECT_TRUE(AreaFunction1IsImplemented());
     EXPECT_EQ(Area(2, 3), 6);
+    // Failures of the implementation pass through unchanged.
+    SetAreaFunction1(+[](double, double) -> double { throw std::domain_error("negative side"); });
+    EXPECT_THROW(Area(-1, 3), std::domain_error);
 
     SetAreaFunction1(nullptr);
     EXPECT_FALSE(AreaFunction1IsImplemented());
-    EXPECT_EQ(Tests::RaisedMessage([] { Area(2, 3); }), L"Function has no implementation");
+    Library::ErrorManager()->TakeLastError();
 }
 
-TEST_F(FunctionSlot, FailuresOfTheImplementationPassThroughUnchanged)
-{
-    SetAreaFunction1(&Refusing);
-    EXPECT_THROW(Area(-1, 3), std::domain_error);
-}
-
-} // namespace
+} // namespace Quilon_::Tests::FunctionSlots

@@ -1,15 +1,18 @@
-// Dispatch of operator objects: which implementation runs, in which order,
-// and what the caller gets when they fail.
+// Operator objects: which implementation runs, in which order, the rule
+// chains around it, and what the caller gets when they fail.
 #include "Quilon_/System/Functions/Function.h"
 #include "Quilon_/Library.h"
+#include "Quilon_/System/Diagnostic/TraceManager.h"
 #include "Quilon_/System/Raise.h"
 
+#include "../../Support/KernelDoubles.h"
 #include "../../Support/Raised.h"
 #include "../../Support/RuleDoubles.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -18,51 +21,51 @@ namespace {
 
 using namespace Quilon_;
 using namespace Quilon_::System;
-using Functions::rtCheck;
+using namespace Quilon_::System::Functions;
 using Functions::Template::Function;
 using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
 using ::testing::StartsWith;
-using Tests::Raised;
 using Tests::RaisedMessage;
+using Tests::Record;
 using Tests::Refuse;
+using Tests::Rule;
+using Tests::RuleFailures;
 using Tests::Rules;
 
-// Implementations are plain functions; they note their calls here.
-std::vector<std::string> calls;
+// What implementations and rules did, in order.
+Tests::Log events = std::make_shared<std::vector<std::string>>();
 
 int First(int x)
 {
-    calls.push_back("first");
+    events->push_back("first");
     return x + 1;
 }
 
 int Second(int x)
 {
-    calls.push_back("second");
+    events->push_back("second");
     return x + 2;
-}
-
-int SecondRaises(int)
-{
-    calls.push_back("second");
-    QUILON_RAISE(L"Second gave up");
 }
 
 int FirstRaises(int)
 {
-    calls.push_back("first");
+    events->push_back("first raises");
     QUILON_RAISE(L"First gave up");
+}
+
+int SecondRaises(int)
+{
+    events->push_back("second raises");
+    QUILON_RAISE(L"Second gave up");
 }
 
 class FunctionDispatch : public ::testing::Test {
 protected:
-    void SetUp() override { calls.clear(); }
+    void SetUp() override { events->clear(); }
     void TearDown() override { Library::ErrorManager()->TakeLastError(); }
 
-    // "first" registered before "second": "second" is index 0.
-    Function<int (*)(int)> twoOf(int (*first)(int), int (*second)(int))
+    // "First" registered before "Second": "Second" is index 0 and tried first.
+    static Function<int (*)(int)> TwoOf(int (*first)(int), int (*second)(int))
     {
         Function<int (*)(int)> op(L"Offset");
         op.Register(L"First", first);
@@ -71,144 +74,187 @@ protected:
     }
 };
 
-TEST_F(FunctionDispatch, TheImplementationRegisteredLastRunsAlone)
+TEST_F(FunctionDispatch, LastRegisteredRunsAloneAndARaisingOneFallsBack)
 {
-    auto op = twoOf(&First, &Second);
-    ASSERT_EQ(op.Implementations().size(), 2u);
+    auto op = TwoOf(&First, &Second);
     EXPECT_EQ(op.Implementations()[0].Name().Value(), L"Second");
-
     EXPECT_EQ(op(10), 12);
-    EXPECT_THAT(calls, ElementsAre("second"));
+    EXPECT_THAT(*events, ElementsAre("second"));
+
+    events->clear();
+    EXPECT_EQ(TwoOf(&First, &SecondRaises)(10), 11);
+    EXPECT_THAT(*events, ElementsAre("second raises", "first"));
+
+    events->clear();
+    EXPECT_EQ(RaisedMessage([] { TwoOf(&FirstRaises, &SecondRaises)(0); }), L"First gave up");
+    EXPECT_THAT(*events, ElementsAre("second raises", "first raises"));
 }
 
-TEST_F(FunctionDispatch, ConstructorWithPointerRegistersUnnamedDefaultAndNullRegistersNothing)
+// By-value arguments may be moved into the last implementation only: one
+// tried after a failure must still get the caller's object.
+std::int64_t HeldBy(Pointer<Tests::Kernel::IThing> thing)
 {
-    Function<int (*)(int)> op(&First);
-    op.Register(nullptr);
-    ASSERT_EQ(op.Implementations().size(), 1u);
-    EXPECT_EQ(op.Implementations()[0].Name().Value(), L"");
-    EXPECT_FALSE(op.Implementations()[0].IgnoreFunctionRules());
-    EXPECT_EQ(op(1), 2);
+    return thing.Get() ? 1 : 0;
 }
 
-TEST_F(FunctionDispatch, RaisingImplementationFallsBackAndSuccessHidesTheFailure)
+std::int64_t RaisesWith(Pointer<Tests::Kernel::IThing> thing)
 {
-    auto op = twoOf(&First, &SecondRaises);
-    EXPECT_EQ(op(10), 11);
-    EXPECT_THAT(calls, ElementsAre("second", "first"));
+    if (thing)
+        QUILON_RAISE(L"Refused");
+    return 0;
 }
 
-TEST_F(FunctionDispatch, WhenAllRaiseTheLastExceptionIsThrownAndIsTheThreadsLastError)
+TEST_F(FunctionDispatch, ByValueArgumentsReachEveryImplementationTried)
 {
-    auto op = twoOf(&FirstRaises, &SecondRaises);
-    Pointer<IException, 0> thrown = Raised([&] { op(0); });
-    ASSERT_TRUE(thrown);
-    EXPECT_EQ(thrown->Message(), L"First gave up");
-    EXPECT_THAT(calls, ElementsAre("second", "first"));
-    EXPECT_TRUE(Library::ErrorManager()->TakeLastError() == thrown);
+    int destructions = 0;
+    {
+        Pointer<Tests::Kernel::IThing> thing(new Tests::Kernel::CThing(&destructions));
+        Function<std::int64_t (*)(Pointer<Tests::Kernel::IThing>)> op(L"Hold");
+        op.Register(L"Holds", &HeldBy);
+        op.Register(L"Raises", &RaisesWith);
+        EXPECT_EQ(op(thing), 1);
+        EXPECT_TRUE(thing);
+    }
+    EXPECT_EQ(destructions, 1);
 }
 
-TEST_F(FunctionDispatch, ForeignExceptionsBecomeExceptionsWithFixedMessages)
-{
-    Function<int (*)(int)> stl(+[](int) -> int { throw std::runtime_error("disk full"); });
-    Pointer<IException, 0> thrown = Raised([&] { stl(0); });
-    ASSERT_TRUE(thrown);
-    EXPECT_EQ(thrown->Message(), L"STL exception: disk full");
-    EXPECT_TRUE(Library::ErrorManager()->TakeLastError() == thrown);
-
-    Function<int (*)(int)> other(+[](int) -> int { throw 42; });
-    EXPECT_EQ(RaisedMessage([&] { other(0); }), L"Unknown exception");
-
-    // Only the failure of the implementation tried last survives.
-    other.Register(+[](int) -> int { throw std::logic_error("ignored"); });
-    EXPECT_EQ(RaisedMessage([&] { other(0); }), L"Unknown exception");
-}
-
-TEST_F(FunctionDispatch, WithoutImplementationTheOperatorIsNamedInTheFailure)
+TEST_F(FunctionDispatch, ForeignExceptionsAndMissingImplementationsHaveFixedMessages)
 {
     Function<int (*)(int)> op(L"Lonely");
     EXPECT_FALSE(op.CheckImplemented(false));
-    Pointer<IException, 0> thrown = Raised([&] { op(1); });
-    ASSERT_TRUE(thrown);
-    EXPECT_THAT(thrown->Message(), StartsWith(L"No implementation available for function 'Lonely' ("));
-    EXPECT_THAT(thrown->Message(), HasSubstr(L"CheckImplemented"));
-    EXPECT_EQ(RaisedMessage([&] { op.CheckImplemented(true); }), thrown->Message());
+    EXPECT_THAT(RaisedMessage([&] { op(1); }), StartsWith(L"No implementation available for function 'Lonely' ("));
+
+    op.Register(+[](int) -> int { throw std::logic_error("tried last"); });
+    op.Register(+[](int) -> int { throw 42; });
+    EXPECT_EQ(RaisedMessage([&] { op(0); }), L"STL exception: tried last");
+    op.SetNextRunImplementation(0);
+    EXPECT_EQ(RaisedMessage([&] { op(0); }), L"Unknown exception");
 }
 
-TEST_F(FunctionDispatch, WhenAllAreRefusedTheFirstComplaintOfTheLastTriedIsThrown)
+TEST_F(FunctionDispatch, RefusalsGiveTheFirstComplaintOfTheLastTriedUnlessAnExceptionWasKept)
 {
-    auto op = twoOf(&First, &Second);
-    // Index 1 is "First", registered first and so tried last. Its collection
-    // stops at its first refusal.
-    op.Implementations()[1].SetRules(rtCheck,
-                                     Rules({Refuse(0, L"First: #1 too small"), Refuse(0, L"never")}));
+    auto op = TwoOf(&First, &Second);
+    op.Implementations()[1].SetRules(rtCheck, Rules({Refuse(0, L"First: #1 too small"), Refuse(0, L"never")}));
     op.Implementations()[0].SetRules(rtCheck, Rules({Refuse(0, L"Second: #1 odd")}));
+    EXPECT_EQ(RaisedMessage([&] { op(3); }), L"First: #1 too small");
+    EXPECT_TRUE(events->empty());
 
-    Pointer<IException, 0> thrown = Raised([&] { op(3); });
-    ASSERT_TRUE(thrown);
-    EXPECT_EQ(thrown->Message(), L"First: #1 too small");
-    EXPECT_THAT(calls, IsEmpty());
-    EXPECT_TRUE(Library::ErrorManager()->TakeLastError() == thrown);
-}
-
-TEST_F(FunctionDispatch, AnExceptionKeptFromAnEarlierImplementationWinsOverLaterRefusals)
-{
-    auto op = twoOf(&First, &SecondRaises);
-    // The refusing rule raises and swallows a failure of its own on the way,
-    // which the thread's last error must not keep.
-    op.Implementations()[1].SetRules(
-        rtCheck, Rules({Tests::Rule([](std::vector<Any>& arguments, Tests::RuleFailures& failures) {
-            try {
-                arguments[0].CastTo<double>();
-            } catch (const Pointer<IException, 1>&) {
-                failures.emplace_back(0, L"Argument #1 must be a double");
-            }
-            return false;
-        })}));
-
-    Pointer<IException, 0> thrown = Raised([&] { op(3); });
-    ASSERT_TRUE(thrown);
+    // An exception kept from an earlier implementation wins over refusals.
+    auto raising = TwoOf(&First, &SecondRaises);
+    raising.Implementations()[1].SetRules(rtCheck, Rules({Refuse(0, L"Argument #1 must be a double")}));
+    Pointer<IException, 0> thrown = Tests::Raised([&] { raising(3); });
     EXPECT_EQ(thrown->Message(), L"Second gave up");
-    EXPECT_THAT(calls, ElementsAre("second"));
     EXPECT_TRUE(Library::ErrorManager()->TakeLastError() == thrown);
 }
 
-class FunctionSelection : public FunctionDispatch {};
-
-TEST_F(FunctionSelection, SelectedIndexRunsOnceAndAlone)
+TEST_F(FunctionDispatch, SelectedIndexRunsOnceAndAloneWithoutFallBack)
 {
-    auto op = twoOf(&First, &Second);
+    auto op = TwoOf(&First, &SecondRaises);
     op.SetNextRunImplementation(1);
     EXPECT_EQ(op(10), 11);
-    EXPECT_THAT(calls, ElementsAre("first"));
     EXPECT_EQ(op.NextRunImplementation(), -1);
-
-    calls.clear();
-    EXPECT_EQ(op(10), 12);
-    EXPECT_THAT(calls, ElementsAre("second"));
-}
-
-TEST_F(FunctionSelection, SelectedImplementationThatFailsHasNoFallBack)
-{
-    auto op = twoOf(&First, &SecondRaises);
     op.SetNextRunImplementation(0);
     EXPECT_EQ(RaisedMessage([&] { op(10); }), L"Second gave up");
-    EXPECT_THAT(calls, ElementsAre("second"));
+    EXPECT_THAT(*events, ElementsAre("first", "second raises"));
 
-    calls.clear();
-    EXPECT_EQ(op(10), 11);
-    EXPECT_THAT(calls, ElementsAre("second", "first"));
-}
-
-TEST_F(FunctionSelection, IndexOutOfRangeRaisesWithoutRunningAndIsConsumed)
-{
-    auto op = twoOf(&First, &Second);
     op.SetNextRunImplementation(2);
     EXPECT_EQ(RaisedMessage([&] { op(10); }), L"Implementation index is out of range '2'");
-    EXPECT_THAT(calls, IsEmpty());
+    EXPECT_EQ(op(10), 11) << "the index is consumed";
+    EXPECT_THAT(*events, ElementsAre("first", "second raises", "second raises", "first"));
+}
 
-    EXPECT_EQ(op(10), 12);
-    EXPECT_THAT(calls, ElementsAre("second"));
+using FunctionRulesTest = FunctionDispatch;
+
+TEST_F(FunctionRulesTest, ChainsRunInOrderAroundTheCallFunctionRulesBeforeOwn)
+{
+    Function<int (*)(int)> op(L"Ordered");
+    op.Register(L"Only", &First);
+    const std::pair<RuleTypeEnum, std::string> chains[] = {
+        {rtCheck, "check"}, {rtMake, "make"}, {rtPreExecute, "pre"}, {rtPostExecute, "post"}};
+    for (const auto& [type, name] : chains) {
+        op.SetRules(type, Rules({Record(events, "function " + name)}));
+        op.Implementations()[0].SetRules(type, Rules({Record(events, "own " + name)}));
+    }
+    EXPECT_EQ(op(5), 6);
+    EXPECT_THAT(*events, ElementsAre("function check", "own check", "function make", "own make", "function check",
+                                     "own check", "function pre", "own pre", "first", "function post", "own post"));
+}
+
+void Halve(int x, double& out)
+{
+    out = x * 0.5;
+}
+
+TEST_F(FunctionRulesTest, ArgumentsReplacedByMakeAreCheckedAgainAndOutputsAreWrittenBack)
+{
+    Function<void (*)(int, double&)> op(&Halve);
+    auto seen = std::make_shared<std::vector<double>>();
+    auto note = [seen](std::size_t index) -> Rule {
+        return [seen, index](std::vector<Any>& arguments, RuleFailures&) {
+            EXPECT_EQ(arguments.size(), 2u);
+            seen->push_back(index ? arguments[1].CastTo<double>() : arguments[0].CastTo<int>());
+            return true;
+        };
+    };
+    op.SetRules(rtCheck, Rules({note(0)}));
+    op.SetRules(rtMake, Rules({[](std::vector<Any>& arguments, RuleFailures&) {
+                    arguments[0] = ToAny(7);
+                    return true;
+                }}));
+    op.SetRules(rtPostExecute, Rules({note(1)}));
+    double out = 0;
+    op(3, out);
+    EXPECT_EQ(out, 3.5);
+    EXPECT_THAT(*seen, ElementsAre(3, 7, 3.5)) << "checked, checked after Make, written by the implementation";
+}
+
+std::vector<std::wstring> debugLines;
+
+TEST_F(FunctionRulesTest, PostRulesRunAfterSuccessOnlyAndRefusalsMoveOnAndAreWrittenWhenDiagnosing)
+{
+    Function<int (*)(int)> op(L"Posted");
+    op.Register(L"First", &First);
+    op.Register(L"Second", &Second);
+    op.Register(L"Raises", &FirstRaises); // raising is no refusal: not written
+    op.Register(L"Fast", &Second);
+    op.SetRules(rtPostExecute, Rules({Record(events, "post")}));
+    op.Implementations()[0].SetRules(rtPreExecute, Rules({Refuse(0, L"Argument #1 must be even")}));
+    op.Implementations()[2].SetRules(rtPostExecute, Rules({Refuse(0, L"Result out of range")}));
+
+    debugLines.clear();
+    Diagnostic::DebugOutputSink savedSink =
+        Diagnostic::SetDebugOutputSink(+[](const std::wstring& text) { debugLines.push_back(text); });
+    EXPECT_EQ(op(3), 4);
+    EXPECT_THAT(*events, ElementsAre("first raises", "second", "post", "first", "post"));
+    EXPECT_TRUE(debugLines.empty());
+    Functions::Function::SetDiagnosticEnabled(true);
+    EXPECT_EQ(op(3), 4);
+    Functions::Function::SetDiagnosticEnabled(false);
+    Diagnostic::SetDebugOutputSink(savedSink);
+    ASSERT_EQ(debugLines.size(), 1u);
+    EXPECT_THAT(debugLines[0],
+                StartsWith(L"Implementation 'Fast' failed. Reason: 'Argument #1 must be even' (function: Posted - "));
+
+    // Alone, a post failure is what the caller gets.
+    op.SetNextRunImplementation(2);
+    EXPECT_EQ(RaisedMessage([&] { op(4); }), L"Result out of range");
+}
+
+TEST_F(FunctionRulesTest, IgnoringFunctionRulesRunsOnlyOwnRules)
+{
+    Function<int (*)(int)> op(L"Ignoring");
+    op.Register(L"First", &First);
+    op.Register(L"Own", &First, true);
+    op.SetRules(rtCheck, Rules({Record(events, "function check"), Refuse(0, L"function refuses")}));
+    op.Implementations()[0].SetRules(rtMake, Rules({Record(events, "own make")}));
+    EXPECT_EQ(op(4), 5);
+    EXPECT_THAT(*events, ElementsAre("own make", "first"));
+
+    // Its fall-back, which honours the function's rules, is refused by them.
+    events->clear();
+    op.SetNextRunImplementation(1);
+    EXPECT_EQ(RaisedMessage([&] { op(4); }), L"function refuses");
+    EXPECT_THAT(*events, ElementsAre("function check"));
 }
 
 } // namespace
