@@ -7,28 +7,15 @@
 #include "Quilon_/System/ObjectImpl.h"
 #include "Quilon_/System/Type.h"
 
+#include "BenchValue.h"
+
 #include <benchmark/benchmark.h>
 
 #include <vector>
 
 namespace Quilon_::Bench {
 
-class IValue : public virtual System::Interface {
-    QUILON_INTERFACE(IValue)
-public:
-    virtual int Value() = 0;
-};
-
 QUILON_DEFINE_INTERFACE_TYPE(IValue, L"Quilon_::Bench::IValue", System::Interface)
-
-class CValue : public System::Template::ObjectImpl<CValue, IValue> {
-public:
-    explicit CValue(int value) : m_value(value) {}
-    int Value() override { return m_value; }
-
-private:
-    int m_value;
-};
 
 // Always satisfied: the cost of a rule chain itself.
 class CAccept : public System::Template::ObjectImpl<CAccept, System::Functions::Rules::IRule> {

@@ -8,6 +8,8 @@
 #include "Quilon_/System/ObjectImpl.h"
 #include "Quilon_/System/Type.h"
 
+#include "BenchValue.h"
+
 #include <benchmark/benchmark.h>
 
 #include <cstdint>
@@ -20,18 +22,7 @@
 
 namespace Quilon_::Bench {
 
-class IValue : public virtual System::Interface {
-    QUILON_INTERFACE(IValue)
-public:
-    virtual int Value() = 0;
-};
-
 QUILON_DEFINE_INTERFACE_TYPE(IValue, L"Quilon_::Bench::IValue", System::Interface)
-
-class CValue : public System::Template::ObjectImpl<CValue, IValue> {
-public:
-    int Value() override { return 1; }
-};
 
 } // namespace Quilon_::Bench
 
