@@ -165,14 +165,10 @@ public:
     }
     Pointer& operator=(T* value)
     {
-        if constexpr (N == 2) {
-            // The value is cloned, since others may hold it; a reference held
-            // meanwhile frees it afterwards when nobody does (a fresh object).
-            Pointer<T, 0> original(value);
-            Replace(Acquire(value, true));
-        } else {
-            Replace(Acquire(value, true));
-        }
+        // Policy 2 stores a clone; holding the original meanwhile frees it
+        // afterwards when nobody else holds it (a fresh object).
+        [[maybe_unused]] Pointer<T, 0> original(N == 2 ? value : nullptr);
+        Replace(Acquire(value, true));
         return *this;
     }
     Pointer& operator=(std::nullptr_t)

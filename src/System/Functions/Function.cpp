@@ -4,6 +4,7 @@
 #include "Quilon_/System/Diagnostic/TraceManager.h"
 #include "Quilon_/System/Type.h"
 
+#include <algorithm>
 #include <atomic>
 
 namespace Quilon_::System::Functions {
@@ -12,24 +13,6 @@ QUILON_DEFINE_INTERFACE_TYPE(IDescription, L"Quilon_::System::Functions::IDescri
 
 namespace {
 constinit std::atomic<bool> diagnosticEnabled{false};
-
-bool AnySet(const RuleCollections& collections)
-{
-    for (const auto& collection : collections) {
-        if (collection)
-            return true;
-    }
-    return false;
-}
-
-// A vector of exactly the four collections, missing ones null.
-RuleCollections FourOf(const RuleCollections& collections)
-{
-    RuleCollections four(RuleTypeCount);
-    for (std::size_t i = 0; i < RuleTypeCount && i < collections.size(); ++i)
-        four[i] = collections[i];
-    return four;
-}
 } // namespace
 
 bool Function::DiagnosticEnabled()
@@ -44,62 +27,36 @@ void Function::SetDiagnosticEnabled(bool enabled)
 
 namespace Detail {
 
-Implementation::Implementation(bool ignoreFunctionRules)
-    : rules(RuleTypeCount), ignoreFunctionRules(ignoreFunctionRules)
+void RuleSet::Set(RuleTypeEnum type, Pointer<Rules::IRuleCollection, 0> collection)
 {
+    collections.at(static_cast<std::size_t>(type)) = std::move(collection);
+    any = std::any_of(collections.begin(), collections.end(), [](const auto& c) { return bool(c); });
 }
+
+void RuleSet::Set(const RuleCollections& all)
+{
+    for (std::size_t i = 0; i < RuleTypeCount; ++i)
+        Set(static_cast<RuleTypeEnum>(i), i < all.size() ? all[i] : nullptr);
+}
+
+Implementation::Implementation(bool ignoreFunctionRules) : ignoreFunctionRules(ignoreFunctionRules) {}
 
 Implementation::Implementation(const LIString& name, bool ignoreFunctionRules)
-    : name(name), rules(RuleTypeCount), ignoreFunctionRules(ignoreFunctionRules)
+    : name(name), ignoreFunctionRules(ignoreFunctionRules)
 {
 }
 
-Pointer<Rules::IRuleCollection, 0> Implementation::Rules(RuleTypeEnum type) const
-{
-    return rules.at(static_cast<std::size_t>(type));
-}
+Function::Function() = default;
 
-void Implementation::SetRules(RuleTypeEnum type, Pointer<Rules::IRuleCollection, 0> collection)
-{
-    rules.at(static_cast<std::size_t>(type)) = std::move(collection);
-    hasRules = AnySet(rules);
-}
-
-void Implementation::SetRules(const RuleCollections& collections)
-{
-    rules = FourOf(collections);
-    hasRules = AnySet(rules);
-}
-
-Function::Function() : rules(RuleTypeCount) {}
-
-Function::Function(const std::wstring& name) : name(name), rules(RuleTypeCount) {}
+Function::Function(const std::wstring& name) : name(name) {}
 
 Function::Function(const Function& other)
     : name(other.name), description(other.description), rules(other.rules),
-      nextRunImplementation(other.nextRunImplementation.load(std::memory_order_relaxed)),
-      hasRules(other.hasRules)
+      nextRunImplementation(other.nextRunImplementation.load(std::memory_order_relaxed))
 {
 }
 
 Function::~Function() = default;
-
-Pointer<Rules::IRuleCollection, 0> Function::Rules(RuleTypeEnum type) const
-{
-    return rules.at(static_cast<std::size_t>(type));
-}
-
-void Function::SetRules(RuleTypeEnum type, Pointer<Rules::IRuleCollection, 0> collection)
-{
-    rules.at(static_cast<std::size_t>(type)) = std::move(collection);
-    hasRules = AnySet(rules);
-}
-
-void Function::SetRules(const RuleCollections& collections)
-{
-    rules = FourOf(collections);
-    hasRules = AnySet(rules);
-}
 
 void Function::SetNextRunImplementation(std::int64_t index)
 {
@@ -111,7 +68,7 @@ bool Function::ApplyRules(RuleTypeEnum type, const Implementation& implementatio
 {
     static const Pointer<Rules::IRuleCollection, 0> none;
     const auto& functionRules =
-        implementation.IgnoreFunctionRules() ? none : rules[static_cast<std::size_t>(type)];
+        implementation.IgnoreFunctionRules() ? none : rules.Get(type);
     return ApplyRules(functionRules, implementation.Rules(type), arguments, failures);
 }
 

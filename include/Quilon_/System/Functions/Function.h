@@ -68,6 +68,28 @@ QUILON_API void SetDiagnosticEnabled(bool enabled);
 
 namespace Detail {
 
+// The four rule collections, by moment, of an operator or of one of its
+// implementations; remembers whether any is set, so that the call need not
+// look at all four.
+class QUILON_API RuleSet {
+public:
+    RuleSet() : collections(RuleTypeCount) {}
+
+    const Pointer<Rules::IRuleCollection, 0>& Get(RuleTypeEnum type) const
+    {
+        return collections.at(static_cast<std::size_t>(type));
+    }
+    void Set(RuleTypeEnum type, Pointer<Rules::IRuleCollection, 0> collection);
+    // All four; missing ones become null.
+    void Set(const RuleCollections& all);
+    const RuleCollections& All() const { return collections; }
+    bool Any() const { return any; }
+
+private:
+    RuleCollections collections;
+    bool any = false;
+};
+
 // One registered implementation, without its function pointer.
 class QUILON_API Implementation {
 public:
@@ -79,18 +101,20 @@ public:
     void SetDescription(Pointer<IDescription, 0> value) { description = std::move(value); }
     // With this set, only the implementation's own rules run.
     bool IgnoreFunctionRules() const { return ignoreFunctionRules; }
-    Pointer<Rules::IRuleCollection, 0> Rules(RuleTypeEnum type) const;
-    void SetRules(RuleTypeEnum type, Pointer<Rules::IRuleCollection, 0> collection);
-    void SetRules(const RuleCollections& collections);
+    Pointer<Rules::IRuleCollection, 0> Rules(RuleTypeEnum type) const { return rules.Get(type); }
+    void SetRules(RuleTypeEnum type, Pointer<Rules::IRuleCollection, 0> collection)
+    {
+        rules.Set(type, std::move(collection));
+    }
+    void SetRules(const RuleCollections& collections) { rules.Set(collections); }
     // Whether any of the four collections is set.
-    bool HasOwnRules() const { return hasRules; }
+    bool HasOwnRules() const { return rules.Any(); }
 
 private:
     LIString name;
     Pointer<IDescription, 0> description;
-    RuleCollections rules;
+    RuleSet rules;
     bool ignoreFunctionRules;
-    bool hasRules = false;
 };
 
 // The part of an operator that does not depend on its signature.
@@ -109,10 +133,13 @@ public:
     const std::wstring& Name() const { return name; }
     Pointer<IDescription, 0> Description() const { return description; }
     void SetDescription(Pointer<IDescription, 0> value) { description = std::move(value); }
-    Pointer<Rules::IRuleCollection, 0> Rules(RuleTypeEnum type) const;
-    void SetRules(RuleTypeEnum type, Pointer<Rules::IRuleCollection, 0> collection);
-    void SetRules(const RuleCollections& collections);
-    const RuleCollections& AllRules() const { return rules; }
+    Pointer<Rules::IRuleCollection, 0> Rules(RuleTypeEnum type) const { return rules.Get(type); }
+    void SetRules(RuleTypeEnum type, Pointer<Rules::IRuleCollection, 0> collection)
+    {
+        rules.Set(type, std::move(collection));
+    }
+    void SetRules(const RuleCollections& collections) { rules.Set(collections); }
+    const RuleCollections& AllRules() const { return rules.All(); }
 
     // The next call runs only the implementation of `index`. A one-shot,
     // consumed by that call; not guarded against other threads.
@@ -131,7 +158,7 @@ public:
 protected:
     bool HasRules(const Implementation& implementation) const
     {
-        return hasRules || implementation.HasOwnRules();
+        return rules.Any() || implementation.HasOwnRules();
     }
     bool ApplyRules(const Pointer<Rules::IRuleCollection, 0>& functionRules,
                     const Pointer<Rules::IRuleCollection, 0>& implementationRules,
@@ -157,9 +184,8 @@ protected:
 private:
     std::wstring name;
     Pointer<IDescription, 0> description;
-    RuleCollections rules;
+    RuleSet rules;
     mutable std::atomic<std::int64_t> nextRunImplementation{-1};
-    bool hasRules = false;
 };
 
 // Keeps a result, or nothing for void, across the post-execution rules.
