@@ -1,7 +1,7 @@
 // Per-thread settings: who sees which value, when objects are cloned, and
 // concurrent use.
-#include "Quilon_/Library.h"
 #include "Quilon_/System/GlobalVariable.h"
+#include "Quilon_/Library.h"
 
 #include "../Support/KernelDoubles.h"
 #include "../Support/Raised.h"
@@ -55,7 +55,8 @@ TEST(GlobalVariableTest, EachThreadGetsItsOwnCloneOfAnObject)
 {
     int destructions = 0;
     {
-        GlobalVariable<Pointer<IThing>> value(Pointer<IThing>(new CCloneableThing(7, &destructions)), gvsPerThread);
+        GlobalVariable<Pointer<IThing>> value(Pointer<IThing>(new CCloneableThing(7, &destructions)),
+                                              gvsPerThread);
         Pointer<IThing> mine = value.Get();
         EXPECT_TRUE(value.Get() == mine);
         Pointer<IThing> theirs = OnNewThread([&] { return value.Get(); });

@@ -168,9 +168,9 @@ private:
 // Declares the exported trio of a setting: Getter() returns the value,
 // Setter(value) replaces it, Clearer() resets it (GlobalVariable::Clear).
 // The type comes last, so that it may contain commas.
-#define QUILON_DECLARE_SETTING(Getter, Setter, Clearer, ...)                                      \
-    QUILON_API __VA_ARGS__ Getter();                                                              \
-    QUILON_API void Setter(__VA_ARGS__ value);                                                    \
+#define QUILON_DECLARE_SETTING(Getter, Setter, Clearer, ...)                                                 \
+    QUILON_API __VA_ARGS__ Getter();                                                                         \
+    QUILON_API void Setter(__VA_ARGS__ value);                                                               \
     QUILON_API void Clearer()
 
 // Defines the trio declared by QUILON_DECLARE_SETTING, in the same
@@ -179,13 +179,22 @@ private:
 // made at first use and never destroyed, so that settings may be read during
 // static construction and while the process exits; the Clear calls of
 // shut-down release what it holds.
-#define QUILON_DEFINE_SETTING(Getter, Setter, Clearer, ...)                                       \
-    static ::Quilon_::System::GlobalVariable<decltype(Getter())>& Getter##Variable()               \
-    {                                                                                              \
-        static auto* const variable =                                                              \
-            new ::Quilon_::System::GlobalVariable<decltype(Getter())>(__VA_ARGS__);                \
-        return *variable;                                                                          \
-    }                                                                                              \
-    decltype(Getter()) Getter() { return Getter##Variable().Get(); }                               \
-    void Setter(decltype(Getter()) value) { Getter##Variable().Set(std::move(value)); }           \
-    void Clearer() { Getter##Variable().Clear(); }
+#define QUILON_DEFINE_SETTING(Getter, Setter, Clearer, ...)                                                  \
+    static ::Quilon_::System::GlobalVariable<decltype(Getter())>& Getter##Variable()                         \
+    {                                                                                                        \
+        static auto* const variable =                                                                        \
+            new ::Quilon_::System::GlobalVariable<decltype(Getter())>(__VA_ARGS__);                          \
+        return *variable;                                                                                    \
+    }                                                                                                        \
+    decltype(Getter()) Getter()                                                                              \
+    {                                                                                                        \
+        return Getter##Variable().Get();                                                                     \
+    }                                                                                                        \
+    void Setter(decltype(Getter()) value)                                                                    \
+    {                                                                                                        \
+        Getter##Variable().Set(std::move(value));                                                            \
+    }                                                                                                        \
+    void Clearer()                                                                                           \
+    {                                                                                                        \
+        Getter##Variable().Clear();                                                                          \
+    }

@@ -31,7 +31,7 @@ Pointer<ILock> NewLock(Pointer<ILockable> lockable, const char* file, std::int64
 
 } // namespace
 
-Functions::Template::Function<Pointer<ILock> (*)(Pointer<ILockable>, const char*, std::int64_t)> Lock::New(
-    &NewLock);
+Functions::Template::Function<Pointer<ILock> (*)(Pointer<ILockable>, const char*, std::int64_t)>
+    Lock::New(&NewLock);
 
 } // namespace Quilon_::System::Threading

@@ -45,8 +45,9 @@ private:
 };
 
 // A lockable whose mutex is of another kind than recursive.
-class COtherKindLockable : public System::Template::ObjectImpl<COtherKindLockable, System::Threading::ILockable>,
-                           private MutexBase {
+class COtherKindLockable
+    : public System::Template::ObjectImpl<COtherKindLockable, System::Threading::ILockable>,
+      private MutexBase {
 public:
     MutexBase& GetMutex() override { return *this; }
 

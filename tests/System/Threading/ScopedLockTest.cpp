@@ -1,7 +1,7 @@
 // Scoped locks on one mutex and on several lockables: when they lock and
 // unlock, the refusal of other mutex kinds, and deadlock avoidance.
-#include "Quilon_/Library.h"
 #include "Quilon_/System/Threading/ScopedLock.h"
+#include "Quilon_/Library.h"
 
 #include "../../Support/Raised.h"
 #include "LockDoubles.h"
@@ -54,7 +54,9 @@ TEST(ScopedLockTest, VectorFormHoldsEveryMutexUntilDestroyed)
 TEST(ScopedLockTest, VectorFormRefusesOtherMutexKindsBeforeLockingAny)
 {
     Pointer<ILockable> recursive(new CLockable);
-    EXPECT_EQ(RaisedMessage([&] { ScopedLock lock(Lockables{recursive, new COtherKindLockable}); }),
+    EXPECT_EQ(RaisedMessage([&] {
+                  ScopedLock lock(Lockables{recursive, new COtherKindLockable});
+              }),
               L"Multiple lock can only be used with mtRecursiveMutex mutexes");
     EXPECT_FALSE(HeldElsewhere(recursive->GetMutex()));
     Library::ErrorManager()->TakeLastError();

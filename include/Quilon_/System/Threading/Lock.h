@@ -27,9 +27,9 @@ public:
 namespace Lock {
 // Locks `lockable` and returns the lock. The file and line name the place
 // of the lock for diagnostic builds.
-extern QUILON_API Functions::Template::Function<Pointer<ILock> (*)(Pointer<ILockable>, const char* file,
-                                                                     std::int64_t line)>
-    New;
+extern QUILON_API
+    Functions::Template::Function<Pointer<ILock> (*)(Pointer<ILockable>, const char* file, std::int64_t line)>
+        New;
 } // namespace Lock
 
 } // namespace Quilon_::System::Threading

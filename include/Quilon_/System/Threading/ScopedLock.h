@@ -29,11 +29,10 @@ class QUILON_API ScopedLock {
 public:
     // Takes `mutex`. The file and line name the place of the lock for
     // diagnostic builds; this build ignores them.
-    explicit ScopedLock(MutexBase& mutex, const char* file = nullptr, int line = 0)
+    explicit ScopedLock(MutexBase& mutex, [[maybe_unused]] const char* file = nullptr,
+                        [[maybe_unused]] int line = 0)
         : m_mutex(&mutex), m_locked(false)
     {
-        static_cast<void>(file);
-        static_cast<void>(line);
         Lock();
     }
     // Takes the mutexes of all `lockables`; an empty list takes nothing.
@@ -44,11 +43,8 @@ public:
     ScopedLock(const ScopedLock&) = delete;
     ScopedLock& operator=(const ScopedLock&) = delete;
 
-    ~ScopedLock()
-    {
-        Unlock();
-        // The multiple lock, if any, releases its mutexes as it goes.
-    }
+    // Unlocks; then the multiple lock, if any, releases its mutexes as it goes.
+    ~ScopedLock() { Unlock(); }
 
     void Lock()
     {
