@@ -11,4 +11,15 @@ std::uint32_t CurrentThreadId()
     return id;
 }
 
+std::uint32_t MainThreadId()
+{
+    static const std::uint32_t id = CurrentThreadId();
+    return id;
+}
+
+namespace {
+// Static construction runs on the thread that loads the library.
+[[maybe_unused]] const std::uint32_t loadingThread = MainThreadId();
+} // namespace
+
 } // namespace Quilon_::System::Threading

@@ -7,9 +7,11 @@
 // counters.
 //
 //   CriticalSection::Scope scope(section);   // Enter now, Leave at scope end
+//   GeneralCriticalSectionScope general;     // the same for the general section
 #pragma once
 
 #include "Quilon_/Config.h"
+#include "Quilon_/Startup.h"
 
 #include <mutex>
 
@@ -43,5 +45,15 @@ private:
 
 inline void EnterCriticalSection(CriticalSection& section) { section.Enter(); }
 inline void LeaveCriticalSection(CriticalSection& section) { section.Leave(); }
+
+// Holds the general critical section of the companion library for the
+// lifetime of the scope. It is recursive, so scopes may nest on a thread.
+class GeneralCriticalSectionScope {
+public:
+    GeneralCriticalSectionScope() { EnterGeneralCriticalSection(); }
+    ~GeneralCriticalSectionScope() { LeaveGeneralCriticalSection(); }
+    GeneralCriticalSectionScope(const GeneralCriticalSectionScope&) = delete;
+    GeneralCriticalSectionScope& operator=(const GeneralCriticalSectionScope&) = delete;
+};
 
 } // namespace Quilon_::System::Threading

@@ -3,6 +3,7 @@
 //
 //   std::unordered_map<std::uint32_t, Value, Threading::ThreadIdHash> perThread;
 //   perThread[Threading::CurrentThreadId()] = value;
+//   bool onMain = Threading::CurrentThreadId() == Threading::MainThreadId();
 #pragma once
 
 #include "Quilon_/Config.h"
@@ -13,6 +14,10 @@
 namespace Quilon_::System::Threading {
 
 QUILON_API std::uint32_t CurrentThreadId();
+
+// The thread that loaded the library: the first to ask, and the library
+// asks while it is being loaded.
+QUILON_API std::uint32_t MainThreadId();
 
 struct ThreadIdHash {
     std::size_t operator()(std::uint32_t id) const noexcept

@@ -1,0 +1,200 @@
+// A setting of the toolkit: one value for the whole process, or one value
+// per thread.
+//
+//   GlobalVariable<bool> clip(false, gvsPerThread);
+//   clip.Set(true);      // the calling thread's value, or the default (below)
+//   bool now = clip.Get();
+//   clip.Clear();        // every thread back to false
+//
+// With gvsProcess, Get and Set work on the one value. With gvsPerThread a
+// thread's first Get gives it an entry of its own, made from the default:
+// a value is copied, an object held by interface is cloned (through
+// Collections::ICloneable, deep, if it has it, else System::ICloneable; with
+// neither, the Get raises "Class '%1%' does not implement ICloneable").
+// Set writes the calling thread's entry when it has one, and otherwise the
+// default, which the threads without an entry copy at their first Get: so
+// the values set while the library starts, before any other thread reads
+// them, reach every thread. Clear drops all entries and puts the initial
+// value back, which also releases any object held.
+//
+// Entries are kept by the 32-bit thread id in a map hashed by FNV-1a, under
+// the general critical section. The entry of a thread that has ended stays
+// until the next Clear.
+//
+// The settings trio X(), SetX(value), ClearX() of a Globals namespace is
+// written with two macros, one in the header and one in the source:
+//
+//   // Images/Image.h, in namespace Images::Globals:
+//   QUILON_DECLARE_SETTING(ClipImageView, SetClipImageView, ClearClipImageView, bool);
+//   // Images/Image.cpp, in the same namespace:
+//   QUILON_DEFINE_SETTING(ClipImageView, SetClipImageView, ClearClipImageView, false, System::gvsPerThread)
+#pragma once
+
+#include "Quilon_/System/Cloneable.h"
+#include "Quilon_/System/Threading/CriticalSection.h"
+#include "Quilon_/System/Threading/ThreadId.h"
+
+#include <cstdint>
+#include <unordered_map>
+#include <utility>
+
+namespace Quilon_::System {
+
+enum GlobalVariableScopeEnumTag : std::int32_t {
+    // One value for all threads.
+    gvsProcess = 0,
+    // One value per thread, made from the default at the thread's first read.
+    gvsPerThread = 1,
+};
+using GlobalVariableScopeEnum = GlobalVariableScopeEnumTag;
+
+namespace Detail {
+
+// How a thread's entry is made from the default: the seed is what is read
+// under the lock, the entry is made from it outside, since cloning runs
+// code of the object.
+template <class T>
+struct ThreadEntry {
+    using Seed = T;
+    static Seed SeedOf(const T& value) { return value; }
+    static T Make(const Seed& seed) { return seed; }
+};
+
+template <class I, int N>
+struct ThreadEntry<Template::Pointer<I, N>> {
+    // Held with policy 0, so that taking the seed never clones.
+    using Seed = Template::Pointer<I, 0>;
+    static Seed SeedOf(const Template::Pointer<I, N>& value) { return Seed(value.Get()); }
+    static Template::Pointer<I, N> Make(const Seed& seed)
+    {
+        Seed clone;
+        if (!Template::CloneVariable<I>(seed, clone))
+            return {};
+        // Adopts the clone as it is, whatever the policy.
+        return Template::Pointer<I, N>(clone.Get());
+    }
+};
+
+} // namespace Detail
+
+// T must be default-constructible and copyable.
+template <class T>
+class GlobalVariable {
+public:
+    explicit GlobalVariable(T initial = T(), GlobalVariableScopeEnum scope = gvsProcess)
+        : m_initial(initial), m_scope(scope), m_default(std::move(initial))
+    {
+    }
+    GlobalVariable(const GlobalVariable&) = delete;
+    GlobalVariable& operator=(const GlobalVariable&) = delete;
+
+    GlobalVariableScopeEnum Scope() const noexcept { return m_scope; }
+
+    T Get()
+    {
+        if (m_scope == gvsProcess) {
+            Threading::GeneralCriticalSectionScope lock;
+            return m_default;
+        }
+        return ThreadValue(Threading::CurrentThreadId());
+    }
+
+    void Set(T value)
+    {
+        const std::uint32_t thread = Threading::CurrentThreadId();
+        Threading::GeneralCriticalSectionScope lock;
+        std::swap(SlotToSet(thread), value);
+        // The old value leaves with `value`, after the lock.
+    }
+
+    void Clear()
+    {
+        Entries dropped;
+        T previous = m_initial;
+        Threading::GeneralCriticalSectionScope lock;
+        dropped.swap(m_entries);
+        std::swap(m_default, previous);
+        ++m_defaultVersion;
+    }
+
+private:
+    using Entry = Detail::ThreadEntry<T>;
+    using Entries = std::unordered_map<std::uint32_t, T, Threading::ThreadIdHash>;
+
+    // The thread's entry, made if it has none. A change of the default while
+    // the entry was being made outside the lock makes it again, from the
+    // new default.
+    T ThreadValue(std::uint32_t thread)
+    {
+        for (;;) {
+            typename Entry::Seed seed;
+            std::uint64_t version;
+            {
+                Threading::GeneralCriticalSectionScope lock;
+                auto found = m_entries.find(thread);
+                if (found != m_entries.end())
+                    return found->second;
+                seed = Entry::SeedOf(m_default);
+                version = m_defaultVersion;
+            }
+            T made = Entry::Make(seed);
+            Threading::GeneralCriticalSectionScope lock;
+            if (version == m_defaultVersion)
+                return m_entries.try_emplace(thread, std::move(made)).first->second;
+        }
+    }
+
+    // Under the lock.
+    T& SlotToSet(std::uint32_t thread)
+    {
+        if (m_scope == gvsPerThread) {
+            auto found = m_entries.find(thread);
+            if (found != m_entries.end())
+                return found->second;
+        }
+        ++m_defaultVersion;
+        return m_default;
+    }
+
+    const T m_initial;
+    const GlobalVariableScopeEnum m_scope;
+    T m_default;
+    std::uint64_t m_defaultVersion = 0;
+    Entries m_entries;
+};
+
+} // namespace Quilon_::System
+
+// Declares the exported trio of a setting: Getter() returns the value,
+// Setter(value) replaces it, Clearer() resets it (GlobalVariable::Clear).
+// The type comes last, so that it may contain commas.
+#define QUILON_DECLARE_SETTING(Getter, Setter, Clearer, ...)                                                 \
+    QUILON_API __VA_ARGS__ Getter();                                                                         \
+    QUILON_API void Setter(__VA_ARGS__ value);                                                               \
+    QUILON_API void Clearer()
+
+// Defines the trio declared by QUILON_DECLARE_SETTING, in the same
+// namespace, on a GlobalVariable made from the remaining arguments (initial
+// value and scope; none for an empty process-wide setting). The variable is
+// made at first use and never destroyed, so that settings may be read during
+// static construction and while the process exits; the Clear calls of
+// shut-down release what it holds.
+#define QUILON_DEFINE_SETTING(Getter, Setter, Clearer, ...)                                                  \
+    static ::Quilon_::System::GlobalVariable<decltype(Getter())>& Getter##Variable()                         \
+    {                                                                                                        \
+        static auto* const variable =                                                                        \
+            new ::Quilon_::System::GlobalVariable<decltype(Getter())>(__VA_ARGS__);                          \
+        return *variable;                                                                                    \
+    }                                                                                                        \
+    decltype(Getter()) Getter()                                                                              \
+    {                                                                                                        \
+        return Getter##Variable().Get();                                                                     \
+    }                                                                                                        \
+    void Setter(decltype(Getter()) value)                                                                    \
+    {                                                                                                        \
+        Getter##Variable().Set(std::move(value));                                                            \
+    }                                                                                                        \
+    void Clearer()                                                                                           \
+    {                                                                                                        \
+        Getter##Variable().Clear();                                                                          \
+    }
