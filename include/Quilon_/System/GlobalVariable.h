@@ -2,7 +2,7 @@
 // per thread.
 //
 //   GlobalVariable<bool> clip(false, gvsPerThread);
-//   clip.Set(true);      // the calling thread's value, or the default (below)
+//   clip.Set(true);      // this thread's value only
 //   bool now = clip.Get();
 //   clip.Clear();        // every thread back to false
 //
@@ -11,11 +11,11 @@
 // a value is copied, an object held by interface is cloned (through
 // Collections::ICloneable, deep, if it has it, else System::ICloneable; with
 // neither, the Get raises "Class '%1%' does not implement ICloneable").
-// Set writes the calling thread's entry when it has one, and otherwise the
-// default, which the threads without an entry copy at their first Get: so
-// the values set while the library starts, before any other thread reads
-// them, reach every thread. Clear drops all entries and puts the initial
-// value back, which also releases any object held.
+// Set writes the calling thread's own entry, making it if missing, and
+// leaves the default alone: what one thread sets, no other thread sees.
+// Clear drops all entries, so that every thread falls back to the default,
+// and puts the initial value back, which releases any object held by a
+// process-wide setting at shut-down.
 //
 // Entries are kept by the 32-bit thread id in a map hashed by FNV-1a, under
 // the general critical section. The entry of a thread that has ended stays
@@ -103,8 +103,16 @@ public:
     {
         const std::uint32_t thread = Threading::CurrentThreadId();
         Threading::GeneralCriticalSectionScope lock;
-        std::swap(SlotToSet(thread), value);
         // The old value leaves with `value`, after the lock.
+        if (m_scope == gvsPerThread) {
+            // try_emplace leaves `value` alone when the entry exists.
+            auto [entry, made] = m_entries.try_emplace(thread, std::move(value));
+            if (!made)
+                std::swap(entry->second, value);
+            return;
+        }
+        std::swap(m_default, value);
+        ++m_defaultVersion;
     }
 
     void Clear()
@@ -142,18 +150,6 @@ private:
             if (version == m_defaultVersion)
                 return m_entries.try_emplace(thread, std::move(made)).first->second;
         }
-    }
-
-    // Under the lock.
-    T& SlotToSet(std::uint32_t thread)
-    {
-        if (m_scope == gvsPerThread) {
-            auto found = m_entries.find(thread);
-            if (found != m_entries.end())
-                return found->second;
-        }
-        ++m_defaultVersion;
-        return m_default;
     }
 
     const T m_initial;
