@@ -11,9 +11,10 @@
 #include <cxxabi.h>
 #include <limits>
 #include <memory>
-#include <regex>
 #include <string>
 #include <unordered_set>
+#include <utility>
+#include <vector>
 
 namespace Quilon_::System {
 
@@ -124,18 +125,53 @@ void RemoveArguments(std::wstring& text, const std::wstring& start)
     }
 }
 
+// Identifiers as one token each, every other character as a token of its own.
+std::vector<std::wstring> Tokens(const std::wstring& text)
+{
+    auto isWordCharacter = [](wchar_t c) {
+        return (c >= L'a' && c <= L'z') || (c >= L'A' && c <= L'Z') || (c >= L'0' && c <= L'9') || c == L'_';
+    };
+    std::vector<std::wstring> tokens;
+    for (std::size_t at = 0; at < text.size();) {
+        std::size_t end = at + 1;
+        if (isWordCharacter(text[at]))
+            while (end < text.size() && isWordCharacter(text[end]))
+                ++end;
+        tokens.push_back(text.substr(at, end - at));
+        at = end;
+    }
+    return tokens;
+}
+
+// Drops the prefix words and the root namespace's qualifier, and writes the
+// 64-bit integers by the words that every platform uses.
 void ReplaceWords(std::wstring& text)
 {
-    static const std::pair<std::wregex, std::wstring> words[] = {
-        {std::wregex(L"\\b(?:class|struct|enum) "), L""},
-        {std::wregex(L"\\bQuilon_::"), L""},
-        {std::wregex(L"\\bunsigned long long\\b"), L"unsigned __int64"},
-        {std::wregex(L"\\bunsigned long\\b"), L"unsigned __int64"},
-        {std::wregex(L"\\blong long\\b"), L"__int64"},
-        {std::wregex(L"\\blong\\b(?! double)"), L"__int64"},
+    std::vector<std::wstring> tokens = Tokens(text);
+    auto at = [&](std::size_t i) { return i < tokens.size() ? tokens[i] : std::wstring(); };
+    // Whether tokens[i] and tokens[i + 2] are `first` and `second`, one blank apart.
+    auto pair = [&](std::size_t i, const wchar_t* first, const wchar_t* second) {
+        return at(i) == first && at(i + 1) == L" " && at(i + 2) == second;
     };
-    for (const auto& [word, replacement] : words)
-        text = std::regex_replace(text, word, replacement);
+    std::wstring result;
+    for (std::size_t i = 0; i < tokens.size();) {
+        const std::wstring& token = tokens[i];
+        if ((token == L"class" || token == L"struct" || token == L"enum") && at(i + 1) == L" ") {
+            i += 2;
+        } else if (token == L"Quilon_" && at(i + 1) == L":" && at(i + 2) == L":") {
+            i += 3;
+        } else if (pair(i, L"unsigned", L"long")) {
+            result += L"unsigned __int64";
+            i += pair(i + 2, L"long", L"long") ? 5 : 3;
+        } else if (token == L"long" && !pair(i, L"long", L"double")) {
+            result += L"__int64";
+            i += pair(i, L"long", L"long") ? 3 : 1;
+        } else {
+            result += token;
+            ++i;
+        }
+    }
+    text = std::move(result);
 }
 
 } // namespace
