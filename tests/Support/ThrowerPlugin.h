@@ -27,8 +27,8 @@ using Raise = void (*)(const wchar_t* value);
 using MakeGreeter = System::Interface* (*)(const wchar_t* greeting);
 // IGreeter::GetType() as the plug-in has it.
 using GreeterType = const System::Type* (*)();
-// Boxes, in this order: the __int64 7, ntInt16, std::vector<double>{1.5},
-// a greeter as Pointer<IGreeter>, std::pair<int, std::wstring>{2, L"two"}.
+// Boxes, in this order: the __int64 7, ntInt16 and
+// std::pair<int, std::wstring>{2, L"two"}.
 using BoxValues = std::vector<System::Any> (*)();
 // Reads an Any made elsewhere as std::pair<int, std::wstring> and returns
 // its number.

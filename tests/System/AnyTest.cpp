@@ -3,7 +3,6 @@
 #include "Quilon_/Library.h"
 #include "Quilon_/System/Helper.h"
 #include "Quilon_/System/NumericType.h"
-#include "Quilon_/System/String.h"
 #include "Quilon_/System/Type.h"
 
 #include "../Support/KernelDoubles.h"
@@ -12,7 +11,6 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
-#include <string>
 #include <vector>
 
 namespace Quilon_::Tests::AnyTests {
@@ -33,18 +31,18 @@ TEST_F(AnyCast, ValuesComeOutAsTheirOwnTypeOnly)
     Any number = ToAny(42);
     EXPECT_EQ(number.CastTo<int>(), 42);
     EXPECT_EQ(RaisedMessage([&] { number.CastTo<double>(); }), L"Cannot cast from 'int' to 'double'");
-    EXPECT_EQ(RaisedMessage([&] { number.CastTo<std::int64_t>(); }), L"Cannot cast from 'int' to '__int64'");
     EXPECT_EQ(RaisedMessage([] { ToAny(std::vector<std::int64_t>{1}).CastTo<std::vector<int>>(); }),
               L"Cannot cast from 'std::vector<__int64>' to 'std::vector<int>'");
-
-    EXPECT_EQ(ToAny("text").CastTo<std::string>(), "text");
     EXPECT_EQ(ToAny(L"text").CastTo<std::wstring>(), L"text");
-    EXPECT_TRUE(ToAny(LIString(L"Key", false)).CastTo<LIString>() == LIString(L"Key", false));
-    EXPECT_EQ(ToAny(std::vector<std::wstring>{L"a", L"b"}).CastTo<std::vector<std::wstring>>().size(), 2u);
     EXPECT_TRUE(ToAny(IThing::GetType()).CastTo<Type>() == IThing::GetType());
+
+    // An Any boxes as itself.
+    Any boxed = ToAny(number);
+    EXPECT_EQ(boxed.CastTo<int>(), 42);
+    EXPECT_EQ(boxed.CastTo<Any>().CastTo<int>(), 42);
 }
 
-TEST_F(AnyCast, EnumerationsAreStoredAsInt64AndReadBackAsThemselves)
+TEST_F(AnyCast, EnumerationsReadBackAsThemselvesOnly)
 {
     Any shade = ToAny(sDark);
     EXPECT_EQ(shade.CastTo<ShadeEnumTag>(), sDark);
@@ -52,7 +50,6 @@ TEST_F(AnyCast, EnumerationsAreStoredAsInt64AndReadBackAsThemselves)
     EXPECT_FALSE(shade == ToAny(sLight));
     EXPECT_FALSE(shade == ToAny(3));
     EXPECT_FALSE(Helper::IsScalar(shade));
-    EXPECT_EQ(ToAny(ntUInt16).CastTo<NumericTypeEnum>(), ntUInt16);
     EXPECT_EQ(RaisedMessage([&] { shade.CastTo<NumericTypeEnum>(); }),
               L"Cannot cast from 'Tests::AnyTests::ShadeEnumTag' to 'System::NumericTypeEnumTag'");
 }
@@ -64,7 +61,6 @@ TEST_F(AnyCast, InterfaceReferencesComeOutByTheInterfaceCast)
     EXPECT_EQ((boxed.CastTo<Pointer<IThing, 1>>()->Value()), 1);
     Pointer<IOther, 1> other = boxed.CastTo<Pointer<IOther, 1>>();
     EXPECT_TRUE(other == both);
-    EXPECT_TRUE(boxed == ToAny(Pointer<Interface, 0>(both))) << "stored as Pointer<Interface,0>";
 
     EXPECT_FALSE((boxed.CastTo<Pointer<ICloneable, 0>>()));
     EXPECT_FALSE(RaisedMessage([&] { boxed.CastTo<Pointer<ICloneable, 1>>(); }).empty());
@@ -72,23 +68,6 @@ TEST_F(AnyCast, InterfaceReferencesComeOutByTheInterfaceCast)
     EXPECT_FALSE((ToAny(Pointer<IThing, 0>()).CastTo<Pointer<IOther, 0>>()));
     EXPECT_EQ(RaisedMessage([] { ToAny(1.5).CastTo<Pointer<IThing, 0>>(); }),
               L"Cannot cast from 'double' to 'System::Template::Pointer<Tests::Kernel::IThing,0>'");
-}
-
-TEST_F(AnyCast, AnAnyBoxesAsItselfAndCopiesOwnTheirValue)
-{
-    Any inner = ToAny(7);
-    Any boxed = ToAny(inner);
-    EXPECT_EQ(boxed.CastTo<int>(), 7);
-    EXPECT_EQ(boxed.CastTo<Any>().CastTo<int>(), 7);
-    EXPECT_TRUE(Any().CastTo<Any>().IsEmpty());
-
-    Any copy = boxed;
-    boxed = ToAny(8);
-    EXPECT_EQ(copy.CastTo<int>(), 7);
-    copy.Swap(boxed);
-    EXPECT_EQ(copy.CastTo<int>(), 8);
-    EXPECT_TRUE(Any() == Any());
-    EXPECT_FALSE(Any() == copy);
 }
 
 } // namespace Quilon_::Tests::AnyTests

@@ -65,15 +65,12 @@ TEST(CrossLibrary, ValuesBoxedInAPluginAreReadHereAndTheOtherWayRound)
     static void* const library = dlopen(QUILON_TEST_LIB_DIR "/libQuilon_.TestThrower.so", RTLD_NOW | RTLD_GLOBAL);
     ASSERT_NE(library, nullptr) << dlerror();
     std::vector<Any> boxed = reinterpret_cast<ThrowerPlugin::BoxValues>(dlsym(library, "QuilonTestThrower_BoxValues"))();
-    ASSERT_EQ(boxed.size(), 5u);
-    EXPECT_EQ(boxed[0].CastTo<std::int64_t>(), 7);
+    ASSERT_EQ(boxed.size(), 3u);
     EXPECT_TRUE(Helper::IsInteger(boxed[0]));
     EXPECT_TRUE(boxed[0] == ToAny(std::int64_t(7)));
     EXPECT_EQ(boxed[1].CastTo<NumericTypeEnum>(), ntInt16);
-    EXPECT_EQ(boxed[2].CastTo<std::vector<double>>(), std::vector<double>{1.5});
-    EXPECT_EQ(dynamic_cast<IGreeter*>(boxed[3].CastTo<Pointer<Interface>>().Get())->Greet(L"you"), L"Boxed, you");
     using Pair = std::pair<int, std::wstring>;
-    EXPECT_EQ(boxed[4].CastTo<Pair>().second, L"two");
+    EXPECT_EQ(boxed[2].CastTo<Pair>().second, L"two");
 
     auto unboxPair = reinterpret_cast<ThrowerPlugin::UnboxPair>(dlsym(library, "QuilonTestThrower_UnboxPair"));
     EXPECT_EQ(unboxPair(ToAny(Pair(3, L"three"))), 3);
