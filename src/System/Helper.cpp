@@ -23,11 +23,13 @@ namespace {
 template <class... T>
 struct TypeList {};
 
+template <class... A, class... B>
+TypeList<A..., B...> Join(TypeList<A...>, TypeList<B...>);
+
 using IntegerTypes = TypeList<char, unsigned char, short, unsigned short, int, unsigned int, std::int64_t,
                               std::uint64_t>;
 using FloatingPointTypes = TypeList<float, double>;
-using ScalarTypes = TypeList<char, unsigned char, short, unsigned short, int, unsigned int, std::int64_t,
-                             std::uint64_t, float, double>;
+using ScalarTypes = decltype(Join(IntegerTypes(), FloatingPointTypes()));
 
 // The language's names of the types, which are the same in every library.
 template <class... T>
@@ -73,7 +75,7 @@ T Converted(double value)
             return std::numeric_limits<T>::max();
     } else if constexpr (std::is_same_v<T, float>) {
         if (std::isfinite(value) && std::fabs(value) > std::numeric_limits<float>::max())
-            return std::copysign(std::numeric_limits<float>::infinity(), static_cast<float>(value));
+            return value > 0 ? std::numeric_limits<float>::infinity() : -std::numeric_limits<float>::infinity();
     }
     return static_cast<T>(value);
 }
