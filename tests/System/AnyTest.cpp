@@ -20,10 +20,7 @@ using namespace Quilon_::System;
 
 enum ShadeEnumTag : std::int32_t { sLight = 1, sDark = 3 };
 
-class AnyCast : public ::testing::Test {
-protected:
-    void TearDown() override { Library::ErrorManager()->TakeLastError(); }
-};
+using AnyCast = RaisingTest;
 
 TEST_F(AnyCast, ValuesComeOutAsTheirOwnTypeOnly)
 {

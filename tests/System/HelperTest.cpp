@@ -21,10 +21,7 @@ namespace Quilon_::Tests::HelperTests {
 
 using namespace Quilon_::System;
 
-class Helpers : public ::testing::Test {
-protected:
-    void TearDown() override { Library::ErrorManager()->TakeLastError(); }
-};
+using Helpers = RaisingTest;
 
 TEST_F(Helpers, ScalarsAreNumbersOnlyThoughScalarValueAlsoReadsText)
 {

@@ -14,10 +14,7 @@ namespace Quilon_::Tests::NumericTypeTests {
 
 using namespace Quilon_::System;
 
-class NumericType : public ::testing::Test {
-protected:
-    void TearDown() override { Library::ErrorManager()->TakeLastError(); }
-};
+using NumericType = RaisingTest;
 
 TEST_F(NumericType, ClassifiersAndContainingTypesFollowTheBitLayout)
 {
