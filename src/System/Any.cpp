@@ -5,6 +5,8 @@
 #include "Quilon_/Library.h"
 #include "Quilon_/System/Helper.h"
 #include "Quilon_/System/Raise.h"
+#include "Quilon_/System/String.h"
+#include "Quilon_/System/Type.h"
 
 #include <cstring>
 
@@ -44,3 +46,43 @@ void RaiseAnyCast(const std::type_info& source, const std::type_info& target)
 }
 
 } // namespace Quilon_::System::Detail
+
+namespace Quilon_::System {
+
+// clang-format off
+Any ToAny(bool value) { return Detail::Box(value); }
+Any ToAny(char value) { return Detail::Box(value); }
+Any ToAny(unsigned char value) { return Detail::Box(value); }
+Any ToAny(short value) { return Detail::Box(value); }
+Any ToAny(unsigned short value) { return Detail::Box(value); }
+Any ToAny(int value) { return Detail::Box(value); }
+Any ToAny(unsigned int value) { return Detail::Box(value); }
+Any ToAny(std::int64_t value) { return Detail::Box(value); }
+Any ToAny(std::uint64_t value) { return Detail::Box(value); }
+Any ToAny(float value) { return Detail::Box(value); }
+Any ToAny(double value) { return Detail::Box(value); }
+Any ToAny(void* value) { return Detail::Box(value); }
+Any ToAny(const std::string& value) { return Detail::Box(value); }
+Any ToAny(const std::wstring& value) { return Detail::Box(value); }
+Any ToAny(const LIString& value) { return Detail::Box(value); }
+Any ToAny(const Type& value) { return Detail::Box(value); }
+Any ToAny(const Pointer<Interface, 0>& value) { return Detail::Box(value); }
+Any ToAny(const Any& value) { return value; }
+
+Any ToAny(const std::vector<bool>& value) { return Detail::Box(value); }
+Any ToAny(const std::vector<char>& value) { return Detail::Box(value); }
+Any ToAny(const std::vector<unsigned char>& value) { return Detail::Box(value); }
+Any ToAny(const std::vector<short>& value) { return Detail::Box(value); }
+Any ToAny(const std::vector<unsigned short>& value) { return Detail::Box(value); }
+Any ToAny(const std::vector<int>& value) { return Detail::Box(value); }
+Any ToAny(const std::vector<unsigned int>& value) { return Detail::Box(value); }
+Any ToAny(const std::vector<std::int64_t>& value) { return Detail::Box(value); }
+Any ToAny(const std::vector<std::uint64_t>& value) { return Detail::Box(value); }
+Any ToAny(const std::vector<float>& value) { return Detail::Box(value); }
+Any ToAny(const std::vector<double>& value) { return Detail::Box(value); }
+Any ToAny(const std::vector<void*>& value) { return Detail::Box(value); }
+Any ToAny(const std::vector<std::wstring>& value) { return Detail::Box(value); }
+Any ToAny(const std::vector<Pointer<Interface, 0>>& value) { return Detail::Box(value); }
+// clang-format on
+
+} // namespace Quilon_::System

@@ -1,8 +1,11 @@
-// The exception that a piece of code raises, for asserting messages:
+// The exception that a piece of code raises, for asserting messages, and a
+// fixture for suites that raise on purpose:
 //
-//   EXPECT_EQ(Tests::RaisedMessage([&] { any.CastTo<int>(); }), L"...");
+//   using AnyCast = Tests::RaisingTest;
+//   TEST_F(AnyCast, ...) { EXPECT_EQ(Tests::RaisedMessage([&] { any.CastTo<int>(); }), L"..."); }
 #pragma once
 
+#include "Quilon_/Library.h"
 #include "Quilon_/System/Exception.h"
 
 #include <gtest/gtest.h>
@@ -32,5 +35,12 @@ std::wstring RaisedMessage(Code&& code)
     System::Pointer<System::IException, 0> exception = Raised(code);
     return exception ? exception->Message() : std::wstring();
 }
+
+// Takes the thread's last error after each test, so that what one test
+// raised is not seen by the next.
+class RaisingTest : public ::testing::Test {
+protected:
+    void TearDown() override { Library::ErrorManager()->TakeLastError(); }
+};
 
 } // namespace Quilon_::Tests

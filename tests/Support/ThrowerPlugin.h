@@ -6,6 +6,7 @@
 // dlsym, and reaches IGreeter's Type only through QuilonTestThrower_GreeterType.
 #pragma once
 
+#include "Quilon_/System/Any.h"
 #include "Quilon_/System/Pointer.h"
 
 #include <string>
@@ -26,6 +27,12 @@ using Raise = void (*)(const wchar_t* value);
 using MakeGreeter = System::Interface* (*)(const wchar_t* greeting);
 // IGreeter::GetType() as the plug-in has it.
 using GreeterType = const System::Type* (*)();
+// Boxes, in this order: the __int64 7, ntInt16 and
+// std::pair<int, std::wstring>{2, L"two"}.
+using BoxValues = std::vector<System::Any> (*)();
+// Reads an Any made elsewhere as std::pair<int, std::wstring> and returns
+// its number.
+using UnboxPair = int (*)(const System::Any& value);
 } // namespace ThrowerPlugin
 
 } // namespace Quilon_::Tests

@@ -1,6 +1,9 @@
 // Boxed values: what CastTo accepts, and its failures.
 #include "Quilon_/System/Any.h"
 #include "Quilon_/Library.h"
+#include "Quilon_/System/Helper.h"
+#include "Quilon_/System/NumericType.h"
+#include "Quilon_/System/Type.h"
 
 #include "../Support/KernelDoubles.h"
 #include "../Support/Raised.h"
@@ -8,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <vector>
 
 namespace Quilon_::Tests::AnyTests {
 
@@ -16,10 +20,7 @@ using namespace Quilon_::System;
 
 enum ShadeEnumTag : std::int32_t { sLight = 1, sDark = 3 };
 
-class AnyCast : public ::testing::Test {
-protected:
-    void TearDown() override { Library::ErrorManager()->TakeLastError(); }
-};
+using AnyCast = RaisingTest;
 
 TEST_F(AnyCast, ValuesComeOutAsTheirOwnTypeOnly)
 {
@@ -27,11 +28,27 @@ TEST_F(AnyCast, ValuesComeOutAsTheirOwnTypeOnly)
     Any number = ToAny(42);
     EXPECT_EQ(number.CastTo<int>(), 42);
     EXPECT_EQ(RaisedMessage([&] { number.CastTo<double>(); }), L"Cannot cast from 'int' to 'double'");
+    EXPECT_EQ(RaisedMessage([] { ToAny(std::vector<std::int64_t>{1}).CastTo<std::vector<int>>(); }),
+              L"Cannot cast from 'std::vector<__int64>' to 'std::vector<int>'");
+    EXPECT_EQ(ToAny(L"text").CastTo<std::wstring>(), L"text");
+    EXPECT_TRUE(ToAny(IThing::GetType()).CastTo<Type>() == IThing::GetType());
 
+    // An Any boxes as itself.
+    Any boxed = ToAny(number);
+    EXPECT_EQ(boxed.CastTo<int>(), 42);
+    EXPECT_EQ(boxed.CastTo<Any>().CastTo<int>(), 42);
+}
+
+TEST_F(AnyCast, EnumerationsReadBackAsThemselvesOnly)
+{
     Any shade = ToAny(sDark);
     EXPECT_EQ(shade.CastTo<ShadeEnumTag>(), sDark);
     EXPECT_TRUE(shade == ToAny(sDark));
     EXPECT_FALSE(shade == ToAny(sLight));
+    EXPECT_FALSE(shade == ToAny(3));
+    EXPECT_FALSE(Helper::IsScalar(shade));
+    EXPECT_EQ(RaisedMessage([&] { shade.CastTo<NumericTypeEnum>(); }),
+              L"Cannot cast from 'Tests::AnyTests::ShadeEnumTag' to 'System::NumericTypeEnumTag'");
 }
 
 TEST_F(AnyCast, InterfaceReferencesComeOutByTheInterfaceCast)
@@ -46,6 +63,8 @@ TEST_F(AnyCast, InterfaceReferencesComeOutByTheInterfaceCast)
     EXPECT_FALSE(RaisedMessage([&] { boxed.CastTo<Pointer<ICloneable, 1>>(); }).empty());
     // A null reference boxes and reads back as null.
     EXPECT_FALSE((ToAny(Pointer<IThing, 0>()).CastTo<Pointer<IOther, 0>>()));
+    EXPECT_EQ(RaisedMessage([] { ToAny(1.5).CastTo<Pointer<IThing, 0>>(); }),
+              L"Cannot cast from 'double' to 'System::Template::Pointer<Tests::Kernel::IThing,0>'");
 }
 
 } // namespace Quilon_::Tests::AnyTests

@@ -3,6 +3,9 @@
 // them. Catching, dynamic_cast and typeid across the library boundary work
 // only if everything they need is exported.
 #include "Quilon_/Library.h"
+#include "Quilon_/System/Any.h"
+#include "Quilon_/System/Helper.h"
+#include "Quilon_/System/NumericType.h"
 #include "Quilon_/System/Cloneable.h"
 #include "Quilon_/System/Exception.h"
 #include "Quilon_/System/Type.h"
@@ -14,6 +17,8 @@
 
 #include <dlfcn.h>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace Quilon_::Tests::CrossLibraryTests {
 
@@ -53,6 +58,23 @@ TEST(CrossLibrary, PluginsExceptionsObjectsAndTypesAreUsableHere)
     EXPECT_FALSE((Pointer<IException, 0>(greeter)));
     EXPECT_TRUE(greeterType.IsImplementedBy(greeter));
     EXPECT_FALSE(greeterType.IsImplementedBy(Exception::New(L"m", L"f()", L"x.cpp", 1)));
+}
+
+TEST(CrossLibrary, ValuesBoxedInAPluginAreReadHereAndTheOtherWayRound)
+{
+    static void* const library = dlopen(QUILON_TEST_LIB_DIR "/libQuilon_.TestThrower.so", RTLD_NOW | RTLD_GLOBAL);
+    ASSERT_NE(library, nullptr) << dlerror();
+    std::vector<Any> boxed = reinterpret_cast<ThrowerPlugin::BoxValues>(dlsym(library, "QuilonTestThrower_BoxValues"))();
+    ASSERT_EQ(boxed.size(), 3u);
+    EXPECT_TRUE(Helper::IsInteger(boxed[0]));
+    EXPECT_TRUE(boxed[0] == ToAny(std::int64_t(7)));
+    EXPECT_EQ(boxed[1].CastTo<NumericTypeEnum>(), ntInt16);
+    using Pair = std::pair<int, std::wstring>;
+    EXPECT_EQ(boxed[2].CastTo<Pair>().second, L"two");
+
+    auto unboxPair = reinterpret_cast<ThrowerPlugin::UnboxPair>(dlsym(library, "QuilonTestThrower_UnboxPair"));
+    EXPECT_EQ(unboxPair(ToAny(Pair(3, L"three"))), 3);
+    // Not closed: Types() keeps the plug-in's type descriptions.
 }
 
 } // namespace Quilon_::Tests::CrossLibraryTests

@@ -13,10 +13,7 @@ namespace Quilon_::Tests::StringTests {
 
 using namespace Quilon_::System;
 
-class StringConversion : public ::testing::Test {
-protected:
-    void TearDown() override { Library::ErrorManager()->TakeLastError(); }
-};
+using StringConversion = RaisingTest;
 
 TEST_F(StringConversion, Utf8ToWideRoundTripsEveryPlaneAndRefusesMalformedInput)
 {

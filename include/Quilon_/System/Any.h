@@ -9,6 +9,12 @@
 //   a.CastTo<double>();         // raises: no numeric conversion here
 //   Any p = ToAny(Pointer<IThing>(thing));
 //   p.CastTo<Pointer<IOther, 0>>();   // the interface cast
+//
+// ToAny has one exported overload per boxed kind; a domain that adds a
+// value class declares its overload next to the class and defines it with
+// Detail::Box. Types without an overload of their own are boxed by the
+// template at the end of this file, in the same holder, so that a value
+// reads alike whichever of the two boxed it.
 #pragma once
 
 #include "Quilon_/System/Pointer.h"
@@ -20,10 +26,13 @@
 #include <type_traits>
 #include <typeinfo>
 #include <utility>
+#include <vector>
 
 namespace Quilon_::System {
 
 class Any;
+class LIString;
+class Type;
 
 namespace Detail {
 
@@ -68,7 +77,7 @@ struct AnyTraits<T, std::enable_if_t<IsPointer<T>::value>> {
 };
 
 template <class T, class S>
-class AnyHolder : public AnyHolderBase {
+class QUILON_API AnyHolder : public AnyHolderBase {
 public:
     explicit AnyHolder(const S& value) : m_value(value) {}
     bool Equals(const Any& other) const override;
@@ -130,16 +139,21 @@ public:
     T CastTo() const
     {
         static_assert(!std::is_reference_v<T>, "CastTo returns a copy");
-        using Stored = typename Detail::AnyTraits<T>::Stored;
-        if (!m_holder)
-            Detail::RaiseEmptyAnyCast(typeid(T));
-        if (const void* value = m_holder->ValuePointer(typeid(T)))
-            return static_cast<T>(*static_cast<const Stored*>(value));
-        if constexpr (Detail::IsPointer<T>::value) {
-            if (const void* value = m_holder->ValuePointer(typeid(Template::Pointer<Interface, 0>)))
-                return T(*static_cast<const Template::Pointer<Interface, 0>*>(value));
+        if constexpr (std::is_same_v<T, Any>) {
+            // Boxing an Any gives the Any itself, so reading it back does too.
+            return *this;
+        } else {
+            using Stored = typename Detail::AnyTraits<T>::Stored;
+            if (!m_holder)
+                Detail::RaiseEmptyAnyCast(typeid(T));
+            if (const void* value = m_holder->ValuePointer(typeid(T)))
+                return static_cast<T>(*static_cast<const Stored*>(value));
+            if constexpr (Detail::IsPointer<T>::value) {
+                if (const void* value = m_holder->ValuePointer(typeid(Template::Pointer<Interface, 0>)))
+                    return T(*static_cast<const Template::Pointer<Interface, 0>*>(value));
+            }
+            Detail::RaiseAnyCast(m_holder->TypeInfo(), typeid(T));
         }
-        Detail::RaiseAnyCast(m_holder->TypeInfo(), typeid(T));
     }
 
 private:
@@ -147,15 +161,77 @@ private:
     void* m_reserved = nullptr;
 };
 
+namespace Detail {
+// The Any of `value`, in the holder that AnyTraits chooses for T.
+template <class T>
+Any Box(const T& value)
+{
+    using Traits = AnyTraits<T>;
+    return Any(new AnyHolder<typename Traits::Presented, typename Traits::Stored>(
+        static_cast<typename Traits::Stored>(value)));
+}
+} // namespace Detail
+
+QUILON_API Any ToAny(bool value);
+QUILON_API Any ToAny(char value);
+QUILON_API Any ToAny(unsigned char value);
+QUILON_API Any ToAny(short value);
+QUILON_API Any ToAny(unsigned short value);
+QUILON_API Any ToAny(int value);
+QUILON_API Any ToAny(unsigned int value);
+QUILON_API Any ToAny(std::int64_t value);
+QUILON_API Any ToAny(std::uint64_t value);
+QUILON_API Any ToAny(float value);
+QUILON_API Any ToAny(double value);
+QUILON_API Any ToAny(void* value);
+QUILON_API Any ToAny(const std::string& value);
+QUILON_API Any ToAny(const std::wstring& value);
+QUILON_API Any ToAny(const LIString& value);
+QUILON_API Any ToAny(const Type& value);
+QUILON_API Any ToAny(const Pointer<Interface, 0>& value);
+// An Any boxes as itself: an operator argument of type Any reaches its rules
+// as the value it holds.
+QUILON_API Any ToAny(const Any& value);
+
+QUILON_API Any ToAny(const std::vector<bool>& value);
+QUILON_API Any ToAny(const std::vector<char>& value);
+QUILON_API Any ToAny(const std::vector<unsigned char>& value);
+QUILON_API Any ToAny(const std::vector<short>& value);
+QUILON_API Any ToAny(const std::vector<unsigned short>& value);
+QUILON_API Any ToAny(const std::vector<int>& value);
+QUILON_API Any ToAny(const std::vector<unsigned int>& value);
+QUILON_API Any ToAny(const std::vector<std::int64_t>& value);
+QUILON_API Any ToAny(const std::vector<std::uint64_t>& value);
+QUILON_API Any ToAny(const std::vector<float>& value);
+QUILON_API Any ToAny(const std::vector<double>& value);
+QUILON_API Any ToAny(const std::vector<void*>& value);
+QUILON_API Any ToAny(const std::vector<std::wstring>& value);
+QUILON_API Any ToAny(const std::vector<Pointer<Interface, 0>>& value);
+
+inline Any ToAny(const char* value) { return ToAny(std::string(value)); }
+inline Any ToAny(const wchar_t* value) { return ToAny(std::wstring(value)); }
+
+// Every interface reference, as Pointer<Interface,0>.
+template <class I, int N>
+Any ToAny(const Pointer<I, N>& value)
+{
+    return ToAny(Pointer<Interface, 0>(value));
+}
+
+// Every enumeration, stored as int64 and read back as the enumeration.
+template <class E>
+    requires std::is_enum_v<E>
+Any ToAny(const E& value)
+{
+    return Detail::Box(value);
+}
+
+// Any other type, by its own type.
 template <class T>
 Any ToAny(const T& value)
 {
-    using Traits = Detail::AnyTraits<T>;
-    return Any(new Detail::AnyHolder<typename Traits::Presented, typename Traits::Stored>(
-        static_cast<typename Traits::Stored>(value)));
+    return Detail::Box(value);
 }
-inline Any ToAny(const char* value) { return ToAny(std::string(value)); }
-inline Any ToAny(const wchar_t* value) { return ToAny(std::wstring(value)); }
 
 namespace Detail {
 template <class T, class S>

@@ -1,5 +1,7 @@
 #include "Quilon_/System/Localization/Translator.h"
 
+#include "Quilon_/Library.h"
+#include "Quilon_/System/Formatter.h"
 #include "Quilon_/System/ObjectImpl.h"
 #include "Quilon_/System/Type.h"
 
@@ -13,9 +15,9 @@ QUILON_DEFINE_INTERFACE_TYPE(ITranslatorInternal, L"Quilon_::System::Localizatio
 
 namespace {
 
-// The default translator: no translations of its own, so every key shows
-// its default text (the part behind ".ds.", or the key itself) and is
-// listed as missing.
+// Has no translations of its own: it asks the listeners of its request for
+// each text, and a key that none of them knows shows its default text (the
+// part behind ".ds.", or the key itself) and is listed as missing.
 class CTranslator : public Template::ObjectImpl<CTranslator, ITranslator, ITranslatorInternal> {
 public:
     std::wstring Translate(const std::wstring& key) override
@@ -26,10 +28,16 @@ public:
         return LIString(key, true).DefaultLocalizedString();
     }
 
-    bool TryTranslate(const std::wstring& key, std::wstring&) override
+    bool TryTranslate(const std::wstring& key, std::wstring& text) override
     {
         if (key.empty())
             return true;
+        Pointer<ITranslationRequestedEventArgs, 1> request = TranslationRequestedEventArgs::New(key);
+        FireTranslationRequested(request);
+        if (request->Handled()) {
+            text = request->Text();
+            return true;
+        }
         AddMissingTranslation(key);
         return false;
     }
@@ -47,6 +55,10 @@ public:
     }
 
 private:
+    // Hands the request to the listeners, on the calling thread and with no
+    // lock held. The request event is not connected yet: nobody listens.
+    void FireTranslationRequested(const Pointer<ITranslationRequestedEventArgs, 1>&) {}
+
     std::mutex m_missingLock;
     std::set<std::wstring> m_missing;
 };
@@ -60,5 +72,19 @@ Pointer<ITranslator, 1> NewTranslator()
 
 __attribute__((init_priority(101)))
 Functions::Template::Function<Pointer<ITranslator, 1> (*)()> Translator::New(&NewTranslator);
+
+void DumpMissingTranslations()
+{
+    Pointer<ITranslator, 1> translator = Library::Translator();
+    // Taken before the texts below are translated, which may add keys.
+    std::vector<std::wstring> missing = translator->MissingTranslations();
+    Pointer<Diagnostic::ITraceManager, 1> trace = Library::TraceManager();
+    std::wstring about =
+        System::Detail::Formatter(translator->Translate(L"Missing translations: %1%")) % missing.size();
+    trace->Trace(about, translator->Translate(L"Translator.Localization"));
+    std::wstring category = translator->Translate(L"Translator.Missing Translations");
+    for (const std::wstring& key : missing)
+        trace->Trace(key, category);
+}
 
 } // namespace Quilon_::System::Localization

@@ -257,4 +257,51 @@ TEST_F(FunctionRulesTest, IgnoringFunctionRulesRunsOnlyOwnRules)
     EXPECT_THAT(*events, ElementsAre("function check"));
 }
 
+
+using Tests::Kernel::CThing;
+using Tests::Kernel::IThing;
+
+void Fill(Pointer<IThing> source, const std::wstring& label, std::int64_t& count, Pointer<IThing, 0>& copy)
+{
+    events->push_back(ToAnsi(label));
+    count = source->Value();
+    copy = source;
+}
+
+TEST_F(FunctionRulesTest, RulesSeeBoxedArgumentsAndOnlyOutputsReachTheCallerAgain)
+{
+    Function<void (*)(Pointer<IThing>, const std::wstring&, std::int64_t&, Pointer<IThing, 0>&)> op(&Fill);
+    Pointer<IThing> callers(new CThing(nullptr, 5)), made(new CThing(nullptr, 9));
+    op.SetRules(rtMake, Rules({[made](std::vector<Any>& arguments, RuleFailures&) {
+                    arguments[0] = ToAny(made);
+                    arguments[1] = ToAny(L"made");
+                    return true;
+                }}));
+    std::int64_t countAfter = 0;
+    op.SetRules(rtPostExecute, Rules({[&](std::vector<Any>& arguments, RuleFailures&) {
+                    countAfter = arguments[2].CastTo<std::int64_t>();
+                    return true;
+                }}));
+
+    const std::wstring label = L"caller's";
+    std::int64_t count = 0;
+    Pointer<IThing, 0> copy;
+    op(callers, label, count, copy);
+    EXPECT_THAT(*events, ElementsAre("made"));
+    EXPECT_EQ(count, 9);
+    EXPECT_EQ(countAfter, 9);
+    EXPECT_TRUE(copy == made);
+    EXPECT_EQ(label, L"caller's");
+
+    // A replacement that no longer reads as the parameter's type fails the
+    // implementation, before it runs and without post rules.
+    events->clear();
+    op.SetRules(rtMake, Rules({[](std::vector<Any>& arguments, RuleFailures&) {
+                    arguments[2] = ToAny(1.5);
+                    return true;
+                }}));
+    EXPECT_EQ(RaisedMessage([&] { op(callers, label, count, copy); }), L"Cannot cast from 'double' to '__int64'");
+    EXPECT_TRUE(events->empty());
+}
+
 } // namespace

@@ -2,11 +2,15 @@
 // only, with hidden visibility, and loaded with dlopen. It raises, and makes
 // objects that the test program and the core cast.
 #include "Quilon_/System/Cloneable.h"
+#include "Quilon_/System/NumericType.h"
 #include "Quilon_/System/ObjectImpl.h"
 #include "Quilon_/System/Raise.h"
 #include "Quilon_/System/Type.h"
 
 #include "../../Support/ThrowerPlugin.h"
+
+#include <utility>
+#include <vector>
 
 namespace Quilon_::Tests {
 
@@ -42,6 +46,17 @@ QUILON_API Quilon_::System::Interface* QuilonTestThrower_MakeGreeter(const wchar
     Quilon_::System::Interface* greeter = static_cast<Quilon_::Tests::IGreeter*>(new Quilon_::Tests::CGreeter(greeting));
     greeter->AddReference();
     return greeter;
+}
+
+QUILON_API std::vector<Quilon_::System::Any> QuilonTestThrower_BoxValues()
+{
+    using namespace Quilon_::System;
+    return {ToAny(std::int64_t(7)), ToAny(ntInt16), ToAny(std::pair<int, std::wstring>(2, L"two"))};
+}
+
+QUILON_API int QuilonTestThrower_UnboxPair(const Quilon_::System::Any& value)
+{
+    return value.CastTo<std::pair<int, std::wstring>>().first;
 }
 
 QUILON_API const Quilon_::System::Type* QuilonTestThrower_GreeterType()
