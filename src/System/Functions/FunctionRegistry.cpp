@@ -1,0 +1,103 @@
+#include "Quilon_/System/Functions/FunctionRegistry.h"
+
+#include "Quilon_/System/Functions/Function.h"
+#include "Quilon_/System/String.h"
+
+#include <cxxabi.h>
+#include <dlfcn.h>
+#include <link.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <memory>
+#include <mutex>
+#include <optional>
+
+namespace Quilon_::System::Functions {
+
+namespace {
+
+struct Registered {
+    const Detail::Function* function;
+    // Found on first listing; the address of an object never changes.
+    std::optional<std::wstring> name;
+};
+
+struct Registry {
+    std::mutex lock;
+    std::vector<Registered> functions;
+};
+
+// Made on first use, by the first operator constructed in any library, and
+// never destroyed: operators of every library leave it during static
+// destruction.
+Registry& TheRegistry()
+{
+    static Registry* const registry = new Registry;
+    return *registry;
+}
+
+std::string Demangled(const char* symbol)
+{
+    int status = 0;
+    std::unique_ptr<char, decltype(&std::free)> text(abi::__cxa_demangle(symbol, nullptr, nullptr, &status),
+                                                      &std::free);
+    return status == 0 && text ? std::string(text.get()) : std::string(symbol);
+}
+
+// The exported symbol whose object contains `function`; the dynamic symbol
+// tables know nothing of objects that are not exported, nor of the heap.
+std::wstring NameOf(const Detail::Function& function)
+{
+    const void* address = &function;
+    Dl_info info{};
+    void* symbolEntry = nullptr;
+    if (dladdr1(address, &info, &symbolEntry, RTLD_DL_SYMENT) != 0 && info.dli_sname && symbolEntry) {
+        const auto* symbol = static_cast<const ElfW(Sym)*>(symbolEntry);
+        const char* start = static_cast<const char*>(info.dli_saddr);
+        const char* at = static_cast<const char*>(address);
+        if (start <= at && at < start + symbol->st_size)
+            return System::Detail::ToStringLenient(Demangled(info.dli_sname));
+    }
+    return function.Name();
+}
+
+} // namespace
+
+std::vector<FunctionRegistry::Entry> FunctionRegistry::Entries()
+{
+    std::vector<Entry> entries;
+    {
+        Registry& registry = TheRegistry();
+        std::lock_guard<std::mutex> lock(registry.lock);
+        entries.reserve(registry.functions.size());
+        for (Registered& registered : registry.functions) {
+            if (!registered.name)
+                registered.name = NameOf(*registered.function);
+            entries.push_back(Entry{*registered.name, registered.function});
+        }
+    }
+    std::stable_sort(entries.begin(), entries.end(),
+                     [](const Entry& a, const Entry& b) { return a.name < b.name; });
+    return entries;
+}
+
+void FunctionRegistry::Add(const Detail::Function& function)
+{
+    Registry& registry = TheRegistry();
+    std::lock_guard<std::mutex> lock(registry.lock);
+    registry.functions.push_back(Registered{&function, std::nullopt});
+}
+
+void FunctionRegistry::Remove(const Detail::Function& function) noexcept
+{
+    Registry& registry = TheRegistry();
+    std::lock_guard<std::mutex> lock(registry.lock);
+    // Static objects leave in the reverse order of their arrival.
+    auto found = std::find_if(registry.functions.rbegin(), registry.functions.rend(),
+                              [&](const Registered& registered) { return registered.function == &function; });
+    if (found != registry.functions.rend())
+        registry.functions.erase(std::next(found).base());
+}
+
+} // namespace Quilon_::System::Functions
