@@ -94,16 +94,17 @@ TEST(LibraryStartup, LoadsTheFilesLibrariesInOrderReportsFailuresAndFinalizesInR
 
         // Operators filled by the recorder: one of its own, one of the core.
         EXPECT_EQ(Library::Translator()->Translate(StartupPlugins::GreetingKey), StartupPlugins::GreetingText);
-        const Functions::Detail::Function* scale = nullptr;
+        const Functions::Detail::Function* decorate = nullptr;
         for (const auto& entry : Functions::FunctionRegistry::Entries()) {
-            if (entry.name == StartupPlugins::ScaleName)
-                scale = entry.function;
+            if (entry.name == StartupPlugins::DecorateName)
+                decorate = entry.function;
         }
-        ASSERT_NE(scale, nullptr);
-        EXPECT_EQ(scale->ImplementationCount(), 2u);
-        auto* typed = dynamic_cast<const Functions::Template::Function<double (*)(double)>*>(scale);
+        ASSERT_NE(decorate, nullptr);
+        EXPECT_EQ(decorate->ImplementationCount(), 2u);
+        using Decorate = Functions::Template::Function<std::wstring (*)(const std::wstring&)>;
+        auto* typed = dynamic_cast<const Decorate*>(decorate);
         ASSERT_NE(typed, nullptr);
-        EXPECT_EQ((*typed)(8.0), 16.0) << "the implementation registered last comes first";
+        EXPECT_EQ((*typed)(L"x"), L"'x'") << "the implementation registered last comes first";
 
         // Only what registered after the failure is finalised: the failing
         // library's finaliser and the core's entry went with it.

@@ -17,10 +17,11 @@ namespace Quilon_::Tests::StartupPlugins {
 
 inline constexpr const wchar_t* Category = L"Start-up order";
 
-// The Recorder exports the operator Quilon_::Tests::RecorderPlugin::Scale,
-// a Function<double (*)(double)>, with no implementation of its own; its
-// initialisers register "Half" (rank 0.2) and then "Twice" (rank 0.5).
-inline constexpr const wchar_t* ScaleName = L"Quilon_::Tests::RecorderPlugin::Scale";
+// The Recorder exports the operator Quilon_::Tests::RecorderPlugin::Decorate,
+// a Function<std::wstring (*)(const std::wstring&)>, with no implementation
+// of its own; its initialisers register "Bracket" (rank 0.2) and then
+// "Quote" (rank 0.5).
+inline constexpr const wchar_t* DecorateName = L"Quilon_::Tests::RecorderPlugin::Decorate";
 // It also registers a translator on Localization::Translator::New that
 // knows one key.
 inline constexpr const wchar_t* GreetingKey = L"Recorder.Greeting";

@@ -37,12 +37,21 @@ Registry& TheRegistry()
     return *registry;
 }
 
+// The name as code writes it: without the ABI tags that the compiler adds
+// to objects whose type involves std::string ("Greet[abi:cxx11]").
 std::string Demangled(const char* symbol)
 {
     int status = 0;
     std::unique_ptr<char, decltype(&std::free)> text(abi::__cxa_demangle(symbol, nullptr, nullptr, &status),
                                                       &std::free);
-    return status == 0 && text ? std::string(text.get()) : std::string(symbol);
+    std::string name = status == 0 && text ? std::string(text.get()) : std::string(symbol);
+    for (auto tag = name.find("[abi:"); tag != std::string::npos; tag = name.find("[abi:", tag)) {
+        const auto end = name.find(']', tag);
+        if (end == std::string::npos)
+            break;
+        name.erase(tag, end - tag + 1);
+    }
+    return name;
 }
 
 // The exported symbol whose object contains `function`; the dynamic symbol

@@ -10,7 +10,7 @@
 
 namespace Quilon_::Tests::RecorderPlugin {
 
-QUILON_API System::Functions::Template::Function<double (*)(double)> Scale(L"Scale");
+QUILON_API System::Functions::Template::Function<std::wstring (*)(const std::wstring&)> Decorate(L"Decorate");
 
 } // namespace Quilon_::Tests::RecorderPlugin
 
@@ -33,14 +33,14 @@ void Finalize()
     Record(std::wstring(L"Recorder: finalize ") + steps[Step]);
 }
 
-double Half(double value)
+std::wstring Bracket(const std::wstring& text)
 {
-    return value / 2;
+    return L"[" + text + L"]";
 }
 
-double Twice(double value)
+std::wstring Quote(const std::wstring& text)
 {
-    return value * 2;
+    return L"'" + text + L"'";
 }
 
 Pointer<Localization::ITranslator, 1> NewTranslator()
@@ -49,16 +49,16 @@ Pointer<Localization::ITranslator, 1> NewTranslator()
     return Pointer<Localization::ITranslator, 1>(new Quilon_::Tests::COneKeyTranslator(GreetingKey, GreetingText));
 }
 
-void RegisterHalf()
+void RegisterBracket()
 {
     Initialize<2>();
-    Quilon_::Tests::RecorderPlugin::Scale.Register(L"Half", &Half);
+    Quilon_::Tests::RecorderPlugin::Decorate.Register(L"Bracket", &Bracket);
 }
 
-void RegisterTwiceAndTranslator()
+void RegisterQuoteAndTranslator()
 {
     Initialize<3>();
-    Quilon_::Tests::RecorderPlugin::Scale.Register(L"Twice", &Twice);
+    Quilon_::Tests::RecorderPlugin::Decorate.Register(L"Quote", &Quote);
     Localization::Translator::New.Register(L"Recorder translator", &NewTranslator);
 }
 
@@ -66,7 +66,7 @@ void RegisterTwiceAndTranslator()
 const Template::Initializer<Quilon_::Library> global03(&Initialize<0>, &Finalize<0>, 0.3f);
 const Template::Initializer<Quilon_::Library> global03Again(&Initialize<0>, &Finalize<0>, 0.3f);
 const Template::Initializer<Quilon_::Library> global095(&Initialize<1>, &Finalize<1>, 0.95f);
-const Template::Initializer<::Library> private02(&RegisterHalf, &Finalize<2>, 0.2f);
-const Template::Initializer<::Library> private05(&RegisterTwiceAndTranslator, &Finalize<3>, 0.5f);
+const Template::Initializer<::Library> private02(&RegisterBracket, &Finalize<2>, 0.2f);
+const Template::Initializer<::Library> private05(&RegisterQuoteAndTranslator, &Finalize<3>, 0.5f);
 
 } // namespace
