@@ -90,52 +90,18 @@ TEST(Initializer, RunsUpByRankPicksUpNewEntriesAndFinalizesDownReportingEachRank
     Template::Initializer<Q>(&Initialize<50>, &Finalize<50>, 0.5f);
     Template::Initializer<Q>(nullptr, &Finalize<30>, 0.3f);
 
-    for (int run = 0; run < 2; ++run) {
-        steps.clear();
-        Initializer::RunInitializers<Q>();
-        EXPECT_EQ(steps, (std::vector<std::string>{"initialize 2", "initialize 1", "initialize 50", "initialize 50",
-                                                   "initialize 90"}));
-        EXPECT_TRUE(Q::Initializers().empty());
-        if (run == 1)
-            break;
-
-        steps.clear();
-        progressCalls.clear();
-        Initializer::RunFinalizers<Q>(&RecordProgress);
-        EXPECT_EQ(steps, (std::vector<std::string>{"finalize 90", "finalize 50", "finalize 50", "finalize 30",
-                                                   "finalize 2", "finalize 1"}));
-        EXPECT_EQ(progressCalls, (std::vector<float>{0.9f, 0.5f, 0.3f, 0.02f, 0.0f}));
-        EXPECT_EQ(Q::Initializers().size(), 6u) << "back in place for the next start";
-        // The entry added during the first run is there for the second.
-        Q::Initializers().pop();
-    }
-}
-
-void Fail()
-{
-    QUILON_RAISE(L"Cannot start");
-}
-
-TEST(Initializer, AFailureLeavesItsEntryToBeInitializedAndToBeFinalized)
-{
-    using Q = Queues<2>;
-    Q::Clear();
-    Template::Initializer<Q>(&Initialize<10>, nullptr, 0.1f);
-    Template::Initializer<Q>(&Fail, nullptr, 0.2f);
-    Template::Initializer<Q>(&Initialize<30>, nullptr, 0.3f);
     steps.clear();
-    EXPECT_EQ(RaisedMessage([] { Initializer::RunInitializers<Q>(); }), L"Cannot start");
-    EXPECT_EQ(steps, std::vector<std::string>{"initialize 10"});
-    EXPECT_EQ(Q::Initializers().top().initialize, &Fail);
-    EXPECT_EQ(Q::Finalizers().top().initialize, &Fail);
-    EXPECT_EQ(Q::Finalizers().size(), 2u);
-}
+    Initializer::RunInitializers<Q>();
+    EXPECT_EQ(steps, (std::vector<std::string>{"initialize 2", "initialize 1", "initialize 50", "initialize 50",
+                                               "initialize 90"}));
 
-std::vector<int> statesSeen;
-
-void RecordState()
-{
-    statesSeen.push_back(InitializationState());
+    steps.clear();
+    progressCalls.clear();
+    Initializer::RunFinalizers<Q>(&RecordProgress);
+    EXPECT_EQ(steps, (std::vector<std::string>{"finalize 90", "finalize 50", "finalize 50", "finalize 30",
+                                               "finalize 2", "finalize 1"}));
+    EXPECT_EQ(progressCalls, (std::vector<float>{0.9f, 0.5f, 0.3f, 0.02f, 0.0f}));
+    EXPECT_EQ(Q::Initializers().size(), 6u) << "back in place for the next start";
 }
 
 int neverRun = 0;
@@ -145,35 +111,32 @@ void NeverRun()
     ++neverRun;
 }
 
-void ThrowStandard()
+TEST(LibraryStartup, AFailingInitializerOfTheStartPropagatesLeftToBeInitializedAndFinalized)
 {
-    throw std::runtime_error("standard failure");
-}
-
-void RaiseFailure()
-{
-    QUILON_RAISE(L"raised failure");
-}
-
-void ThrowOther()
-{
-    throw 42;
+    InChildProcess([] {
+        Library::SetInitializationFileName(L"/nonexistent/Quilon.xml");
+        void (*const fail)() = [] { QUILON_RAISE(L"Cannot start"); };
+        Template::Initializer<Library>(&Initialize<10>, nullptr, 0.1f);
+        Template::Initializer<Library>(fail, nullptr, 0.2f);
+        Template::Initializer<Library>(&NeverRun, nullptr, 0.3f);
+        EXPECT_EQ(RaisedMessage([] { Library::Initialize(); }), L"Cannot start");
+        EXPECT_EQ(InitializationState(), 1) << "the start stops where the initialiser failed";
+        EXPECT_EQ(AddMemoryPressureFunction, &AddMemoryPressure);
+        EXPECT_EQ(Library::Initializers().top().initialize, fail);
+        EXPECT_EQ(Library::Finalizers().top().initialize, fail);
+        EXPECT_EQ(neverRun, 0);
+    });
 }
 
 TEST(LibraryLoading, AFailedInitializerIsReportedAndDiscardsEveryPendingEntry)
 {
     InChildProcess([] {
-        Library::SetInitializationFileName(L"/nonexistent/Quilon.xml");
-        Template::Initializer<Library>(&RecordState, &NeverRun, 0.5f);
-        Library::Initialize();
-        EXPECT_EQ(statesSeen, std::vector<int>{1}) << "the initialisers of the start run in state 1";
-        EXPECT_EQ(AddMemoryPressureFunction, &AddMemoryPressure);
-
+        Template::Initializer<Library>(nullptr, &NeverRun, 0.5f);
         const std::wstring prefix = L"Failed to initialize library 'libQuilon_.TestThrower.so'\n";
         const std::pair<void (*)(), std::wstring> cases[] = {
-            {&ThrowStandard, L"standard failure"},
-            {&RaiseFailure, L"raised failure"},
-            {&ThrowOther, L"Unknown exception"},
+            {[] { throw std::runtime_error("standard failure"); }, L"standard failure"},
+            {[] { QUILON_RAISE(L"raised failure"); }, L"raised failure"},
+            {[] { throw 42; }, L"Unknown exception"},
         };
         for (const auto& [initialize, reason] : cases) {
             Template::Initializer<Library>(initialize, &NeverRun, 0.2f);
@@ -207,16 +170,6 @@ TEST(LibraryLoading, ANameIsListedUnlessItOccursInAnEntryInAnyCase)
                   L"Failed to load library '/nonexistent/libQuilon_.TestThrower.so'\n"
                   L"/nonexistent/libQuilon_.TestThrower.so: cannot open shared object file: No such file or directory");
         EXPECT_EQ(Library::Libraries().size(), 2u) << "a library that failed to load is not listed";
-    });
-}
-
-TEST(LibraryStartup, AFailingInitializerOfTheStartPropagates)
-{
-    InChildProcess([] {
-        Library::SetInitializationFileName(L"/nonexistent/Quilon.xml");
-        Template::Initializer<Library>(&Fail, nullptr, 0.1f);
-        EXPECT_EQ(RaisedMessage([] { Library::Initialize(); }), L"Cannot start");
-        EXPECT_EQ(InitializationState(), 1);
     });
 }
 
