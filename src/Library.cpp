@@ -37,24 +37,22 @@ std::wstring initializationFileName;
 std::vector<std::wstring> libraries;
 bool initializationFileRead = false;
 
-// Appends the names of "DefaultLibraries" of `fileName`; a missing or
-// malformed file, or one with text that is not UTF-8, gives none.
+// Appends the names of "DefaultLibraries" of `fileName`. A file that cannot
+// be named, read or parsed, or whose text is not UTF-8, gives none.
 void AppendDefaultLibraries(const std::wstring& fileName)
 {
-    pugi::xml_document document;
-    if (!document.load_file(ToAnsi(fileName).c_str()))
-        return;
     std::vector<std::wstring> names;
-    pugi::xml_node list = document.document_element().child("DefaultLibraries");
-    for (pugi::xml_node library : list.children("Library")) {
-        pugi::xml_node name = library.child("Name");
-        if (!name)
-            continue;
-        try {
-            names.push_back(ToString(name.text().get()));
-        } catch (const Pointer<IException, 1>&) {
+    try {
+        pugi::xml_document document;
+        if (!document.load_file(ToAnsi(fileName).c_str()))
             return;
+        pugi::xml_node list = document.document_element().child("DefaultLibraries");
+        for (pugi::xml_node library : list.children("Library")) {
+            if (pugi::xml_node name = library.child("Name"))
+                names.push_back(ToString(name.text().get()));
         }
+    } catch (const Pointer<IException, 1>&) {
+        return;
     }
     libraries.insert(libraries.end(), names.begin(), names.end());
 }

@@ -11,21 +11,18 @@
 #include <cstdlib>
 #include <memory>
 #include <mutex>
-#include <optional>
+#include <unordered_map>
 
 namespace Quilon_::System::Functions {
 
 namespace {
 
-struct Registered {
-    const Detail::Function* function;
-    // Found on first listing; the address of an object never changes.
-    std::optional<std::wstring> name;
-};
-
 struct Registry {
     std::mutex lock;
-    std::vector<Registered> functions;
+    // In the order of construction.
+    std::vector<const Detail::Function*> functions;
+    // Found on first listing; the address of an object never changes.
+    std::unordered_map<const Detail::Function*, std::wstring> names;
 };
 
 // Made on first use, by the first operator constructed in any library, and
@@ -75,15 +72,31 @@ std::wstring NameOf(const Detail::Function& function)
 
 std::vector<FunctionRegistry::Entry> FunctionRegistry::Entries()
 {
+    Registry& registry = TheRegistry();
     std::vector<Entry> entries;
     {
-        Registry& registry = TheRegistry();
         std::lock_guard<std::mutex> lock(registry.lock);
-        entries.reserve(registry.functions.size());
-        for (Registered& registered : registry.functions) {
-            if (!registered.name)
-                registered.name = NameOf(*registered.function);
-            entries.push_back(Entry{*registered.name, registered.function});
+        for (const Detail::Function* function : registry.functions) {
+            auto known = registry.names.find(function);
+            entries.push_back(Entry{known == registry.names.end() ? std::wstring() : known->second, function});
+        }
+    }
+    // Names are looked up outside the registry's lock: the lookup takes the
+    // loader's lock, which a library being loaded holds while its operators
+    // arrive here.
+    std::vector<Entry> found;
+    for (Entry& entry : entries) {
+        if (entry.name.empty()) {
+            entry.name = NameOf(*entry.function);
+            found.push_back(entry);
+        }
+    }
+    {
+        std::lock_guard<std::mutex> lock(registry.lock);
+        for (const Entry& entry : found) {
+            if (std::find(registry.functions.begin(), registry.functions.end(), entry.function) !=
+                registry.functions.end())
+                registry.names.emplace(entry.function, entry.name);
         }
     }
     std::stable_sort(entries.begin(), entries.end(),
@@ -95,7 +108,7 @@ void FunctionRegistry::Add(const Detail::Function& function)
 {
     Registry& registry = TheRegistry();
     std::lock_guard<std::mutex> lock(registry.lock);
-    registry.functions.push_back(Registered{&function, std::nullopt});
+    registry.functions.push_back(&function);
 }
 
 void FunctionRegistry::Remove(const Detail::Function& function) noexcept
@@ -103,10 +116,10 @@ void FunctionRegistry::Remove(const Detail::Function& function) noexcept
     Registry& registry = TheRegistry();
     std::lock_guard<std::mutex> lock(registry.lock);
     // Static objects leave in the reverse order of their arrival.
-    auto found = std::find_if(registry.functions.rbegin(), registry.functions.rend(),
-                              [&](const Registered& registered) { return registered.function == &function; });
+    auto found = std::find(registry.functions.rbegin(), registry.functions.rend(), &function);
     if (found != registry.functions.rend())
         registry.functions.erase(std::next(found).base());
+    registry.names.erase(&function);
 }
 
 } // namespace Quilon_::System::Functions
