@@ -68,9 +68,9 @@ void ReadInitializationFile()
     initializationFileRead = true;
 }
 
-// The run-time library of this platform has no invalid-parameter handler to
-// install: its checks never end the process behind the caller's back, so
-// there is nothing to turn into an exception.
+// The C library here has no handler for invalid parameters that could turn
+// them into exceptions: a bad argument shows in errno, or ends the process.
+// The step keeps its place in the start-up, empty.
 void InstallInvalidParameterHandler() {}
 
 std::wstring Lowered(std::wstring text)
