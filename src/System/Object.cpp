@@ -3,6 +3,7 @@
 #include "Quilon_/Interop/Proxy.h"
 #include "Quilon_/Library.h"
 #include "Quilon_/Startup.h"
+#include "Quilon_/System/Allocator.h"
 #include "Quilon_/System/DestructionEvents.h"
 #include "Quilon_/System/EventTarget.h"
 #include "Quilon_/System/Raise.h"
@@ -37,18 +38,12 @@ IDestructionEvents* Object::AsIDestructionEvents()
 
 void* Object::operator new(std::size_t size)
 {
-    void* block = Quilon_malloc(size);
-    if (!block) {
-        Pointer<IException, 1> outOfMemory = Exception::OutOfMemory();
-        Library::ErrorManager()->SetLastError(outOfMemory);
-        throw outOfMemory;
-    }
-    return block;
+    return Allocator::Allocate(size);
 }
 
 void Object::operator delete(void* block) noexcept
 {
-    Quilon_free(block);
+    Allocator::Free(block);
 }
 
 // 0 -> 1 under the lock, so that SetProxy sees count and proxy together;

@@ -1,17 +1,48 @@
-// The commands of the quilon tool, one function each.
+// The commands of the quilon tool, one function each, and what they share.
 #pragma once
 
+#include "Quilon_/System/Exception.h"
+
+#include <cstdio>
 #include <string>
 #include <vector>
 
 namespace Quilon_::Tool {
 
 using Arguments = std::vector<std::string>;
+using Failures = std::vector<System::Pointer<System::IException, 1>>;
 
 // Prints the library version and the initialisation state.
 int Version(const Arguments& arguments);
 // Registers implementations on an operator of its own and calls it, to show
 // one call going through the frame end to end.
 int Demo(const Arguments& arguments);
+// quilon info [--init FILE]: starts the library and prints what it loaded
+// and each failure; fails when a library did.
+int Info(const Arguments& arguments);
+// quilon operators [--init FILE] [PATTERN]: starts the library and lists the
+// operators whose name contains PATTERN, in any case of letters, with their
+// number of implementations.
+int Operators(const Arguments& arguments);
+
+// What the commands that start the library take.
+struct StartOptions {
+    // Empty for the default file beside the core library.
+    std::string initializationFile;
+    // The arguments other than --init and its file.
+    Arguments rest;
+};
+
+// Takes "--init FILE" out of `arguments`; false, with a message on the
+// error output, when FILE is missing.
+bool ParseStartOptions(const Arguments& arguments, StartOptions& options);
+// Library::Initialize from the chosen file; the failures of single
+// libraries.
+Failures StartLibrary(const StartOptions& options);
+// Library::Finalize, after the failures are let go: once finalised, the
+// library destroys no object any more.
+void StopLibrary(Failures& failures);
+// Prints a message of the library, its later lines indented below the first.
+void PrintMessage(std::FILE* out, const std::wstring& message);
 
 } // namespace Quilon_::Tool

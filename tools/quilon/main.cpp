@@ -1,8 +1,10 @@
 // quilon: the command-line tool of the toolkit, an application of the core
 // library linked like any other.
 //
-//   quilon version    the library version and its initialisation state
-//   quilon demo       one operator call through the frame, end to end
+//   quilon info [--init FILE]                 start the library; what it loaded and what failed
+//   quilon operators [--init FILE] [PATTERN]  the operators known, with their implementations
+//   quilon version                            the library version and its initialisation state
+//   quilon demo                               one operator call through the frame, end to end
 
 #include "Commands.h"
 
@@ -21,6 +23,8 @@ struct Command {
 };
 
 const Command commands[] = {
+    {"info", &Quilon_::Tool::Info, "[--init FILE]: start the library; print what it loaded and each failure"},
+    {"operators", &Quilon_::Tool::Operators, "[--init FILE] [PATTERN]: list operators and their implementations"},
     {"version", &Quilon_::Tool::Version, "print the library version and the initialisation state"},
     {"demo", &Quilon_::Tool::Demo, "call an operator through the frame and show what happens"},
 };

@@ -2,6 +2,7 @@
 
 #include "Quilon_/Library.h"
 #include "Quilon_/System/Diagnostic/TraceManager.h"
+#include "Quilon_/System/Functions/FunctionRegistry.h"
 #include "Quilon_/System/Type.h"
 
 #include <algorithm>
@@ -46,17 +47,27 @@ Implementation::Implementation(const LIString& name, bool ignoreFunctionRules)
 {
 }
 
-Function::Function() = default;
+Function::Function()
+{
+    FunctionRegistry::Add(*this);
+}
 
-Function::Function(const std::wstring& name) : name(name) {}
+Function::Function(const std::wstring& name) : name(name)
+{
+    FunctionRegistry::Add(*this);
+}
 
 Function::Function(const Function& other)
     : name(other.name), description(other.description), rules(other.rules),
       nextRunImplementation(other.nextRunImplementation.load(std::memory_order_relaxed))
 {
+    FunctionRegistry::Add(*this);
 }
 
-Function::~Function() = default;
+Function::~Function()
+{
+    FunctionRegistry::Remove(*this);
+}
 
 void Function::SetNextRunImplementation(std::int64_t index)
 {

@@ -129,6 +129,8 @@ public:
     // True if an implementation is registered; otherwise false, or with
     // `throwIfNot` the failure "No implementation available for function".
     virtual bool CheckImplemented(bool throwIfNot) const = 0;
+    // The number of implementations registered, for tools that list operators.
+    virtual std::size_t ImplementationCount() const = 0;
 
     const std::wstring& Name() const { return name; }
     Pointer<IDescription, 0> Description() const { return description; }
@@ -270,6 +272,7 @@ public:
             return false;
         RaiseNotImplemented(QUILON_FUNCTION, __FILE__, __LINE__);
     }
+    std::size_t ImplementationCount() const override { return implementations.size(); }
 
     // Registration puts the new implementation at the front: the one
     // registered last is tried first.

@@ -1,0 +1,197 @@
+// Start-up and shut-down of the whole library from an initialisation file,
+// with real plug-ins loaded by dlopen. Each test starts the library in a
+// child process of its own: start-up happens once per process.
+#include "Quilon_/Library.h"
+#include "Quilon_/System/Functions/FunctionRegistry.h"
+
+#include "../Support/InChildProcess.h"
+#include "../Support/KernelDoubles.h"
+#include "../Support/Raised.h"
+#include "../Support/StartupPlugins.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <dlfcn.h>
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace Quilon_::Tests::InitializationTests {
+
+using namespace Quilon_::System;
+using Strings = std::vector<std::wstring>;
+using ::testing::HasSubstr;
+using ::testing::StartsWith;
+
+const std::wstring fixtures = ToString(QUILON_TEST_FIXTURES_DIR);
+const std::wstring missing = L"libQuilon_.TestMissing.so";
+const std::wstring failing = L"libQuilon_.TestFailing.so";
+const std::wstring recorder = L"libQuilon_.TestRecorder.so";
+const std::wstring thrower = L"libQuilon_.TestThrower.so";
+
+// The trace manager of the child, which keeps the steps the plug-ins record.
+Kernel::CRecordingTrace& RecordSteps()
+{
+    auto* trace = new Kernel::CRecordingTrace;
+    Library::SetTraceManager(Pointer<Diagnostic::ITraceManager, 0>(trace));
+    return *trace;
+}
+
+Strings Steps(const Kernel::CRecordingTrace& trace)
+{
+    Strings steps;
+    for (const auto& [message, category] : trace.traced) {
+        if (category == StartupPlugins::Category)
+            steps.push_back(message);
+    }
+    return steps;
+}
+
+bool IsLoaded(const std::wstring& library)
+{
+    void* handle = dlopen((QUILON_TEST_LIB_DIR "/" + ToAnsi(library)).c_str(), RTLD_NOW | RTLD_NOLOAD);
+    if (handle)
+        dlclose(handle);
+    return handle != nullptr;
+}
+
+std::vector<float> progressCalls;
+
+void RecordProgress(float rank)
+{
+    progressCalls.push_back(rank);
+}
+
+TEST(LibraryStartup, LoadsTheFilesLibrariesInOrderReportsFailuresAndFinalizesInReverseRank)
+{
+    InChildProcess([] {
+        Kernel::CRecordingTrace& trace = RecordSteps();
+        Library::SetInitializationFileName(fixtures + L"/Startup.xml");
+        std::vector<Pointer<IException, 1>> errors;
+        Library::Initialize(errors);
+
+        EXPECT_EQ(InitializationState(), 4);
+        EXPECT_EQ(Library::Libraries(), (Strings{missing, failing, recorder, thrower}));
+        ASSERT_EQ(errors.size(), 2u);
+        EXPECT_THAT(errors[0]->Message(), StartsWith(L"Failed to load library '" + missing + L"'\n"));
+        EXPECT_THAT(errors[0]->Message(), HasSubstr(missing + L": cannot open shared object file"));
+        EXPECT_EQ(errors[1]->Message(),
+                  L"Failed to initialize library '" + failing + L"'\nThe failing plug-in cannot start");
+        EXPECT_TRUE(IsLoaded(recorder) && IsLoaded(thrower)) << "libraries after a failure still load";
+        // The failing library's initialiser of rank 0.9 never runs. The
+        // recorder's global entries and the one that runs its own queue (0.7)
+        // come in the order of rank.
+        EXPECT_EQ(Steps(trace), (Strings{
+                                    L"Failing: initialize 0.1 in state 3",
+                                    L"Recorder: initialize global 0.3 in state 3",
+                                    L"Recorder: initialize global 0.3 in state 3",
+                                    L"Recorder: initialize private 0.2 in state 3",
+                                    L"Recorder: initialize private 0.5 in state 3",
+                                    L"Recorder: initialize global 0.95 in state 3",
+                                }));
+
+        // Operators filled by the recorder: one of its own, one of the core.
+        EXPECT_EQ(Library::Translator()->Translate(StartupPlugins::GreetingKey), StartupPlugins::GreetingText);
+        const Functions::Detail::Function* decorate = nullptr;
+        for (const auto& entry : Functions::FunctionRegistry::Entries()) {
+            if (entry.name == StartupPlugins::DecorateName)
+                decorate = entry.function;
+        }
+        ASSERT_NE(decorate, nullptr);
+        EXPECT_EQ(decorate->ImplementationCount(), 2u);
+        using Decorate = Functions::Template::Function<std::wstring (*)(const std::wstring&)>;
+        auto* typed = dynamic_cast<const Decorate*>(decorate);
+        ASSERT_NE(typed, nullptr);
+        EXPECT_EQ((*typed)(L"x"), L"'x'") << "the implementation registered last comes first";
+
+        // Only what registered after the failure is finalised: the failing
+        // library's finaliser and the core's entry went with it.
+        trace.traced.clear();
+        Library::Finalize(&RecordProgress);
+        EXPECT_EQ(Steps(trace), (Strings{
+                                    L"Recorder: finalize global 0.95 in state 4",
+                                    L"Recorder: finalize private 0.5 in state 4",
+                                    L"Recorder: finalize private 0.2 in state 4",
+                                    L"Recorder: finalize global 0.3 in state 4",
+                                    L"Recorder: finalize global 0.3 in state 4",
+                                }));
+        EXPECT_EQ(progressCalls, (std::vector<float>{0.95f, 0.7f, 0.0f})) << "once per rank";
+        EXPECT_EQ(InitializationState(), -1);
+        int destructions = 0;
+        Pointer<Kernel::IThing, 0>(new Kernel::CThing(&destructions));
+        EXPECT_EQ(destructions, 0) << "after Finalize a last release destroys nothing";
+
+        // The finalised entries run again at the next start; the file is not
+        // read again, and the libraries are only loaded again.
+        trace.traced.clear();
+        errors.clear();
+        Library::Initialize(errors);
+        EXPECT_EQ(Steps(trace), (Strings{
+                                    L"Recorder: initialize global 0.3 in state 1",
+                                    L"Recorder: initialize global 0.3 in state 1",
+                                    L"Recorder: initialize private 0.2 in state 1",
+                                    L"Recorder: initialize private 0.5 in state 1",
+                                    L"Recorder: initialize global 0.95 in state 1",
+                                }));
+        ASSERT_EQ(errors.size(), 1u);
+        EXPECT_THAT(errors[0]->Message(), StartsWith(L"Failed to load library '" + missing + L"'"));
+        Pointer<Kernel::IThing, 0>(new Kernel::CThing(&destructions));
+        EXPECT_EQ(destructions, 1);
+    });
+}
+
+TEST(LibraryStartup, AListSetByTheApplicationTakesThePlaceOfTheFiles)
+{
+    InChildProcess([] {
+        Library::SetInitializationFileName(fixtures + L"/Startup.xml");
+        Library::SetLibraries({thrower});
+        Library::Initialize();
+        EXPECT_EQ(Library::Libraries(), Strings{thrower});
+        EXPECT_TRUE(IsLoaded(thrower));
+        EXPECT_FALSE(IsLoaded(recorder));
+    });
+}
+
+TEST(LibraryStartup, AMissingOrMalformedFileStartsWithoutLibrariesAndIsReadOnce)
+{
+    // The default file, beside the core library, does not exist in the build.
+    for (const std::wstring& file : {std::wstring(), fixtures + L"/Malformed.xml"}) {
+        InChildProcess([&] {
+            if (file.empty()) {
+                std::filesystem::path name = Library::InitializationFileName();
+                EXPECT_EQ(name.filename(), "Quilon.xml");
+                EXPECT_TRUE(std::filesystem::equivalent(name.parent_path(), QUILON_TEST_LIB_DIR));
+            } else {
+                Library::SetInitializationFileName(file);
+            }
+            Library::Initialize();
+            EXPECT_TRUE(Library::Libraries().empty());
+            EXPECT_EQ(InitializationState(), 4);
+
+            Library::SetInitializationFileName(fixtures + L"/Startup.xml");
+            Library::Initialize();
+            EXPECT_TRUE(Library::Libraries().empty()) << "the file is read once";
+        });
+    }
+}
+
+TEST(LibraryStartup, InitializeWithoutAListThrowsTheFirstFailureAfterTryingEveryLibrary)
+{
+    InChildProcess([] {
+        const std::wstring missingToo = L"libQuilon_.TestMissingToo.so";
+        Library::SetLibraries({missing, thrower, missingToo});
+        Pointer<IException, 0> thrown = Raised([] { Library::Initialize(); });
+        ASSERT_TRUE(thrown);
+        EXPECT_THAT(thrown->Message(), StartsWith(L"Failed to load library '" + missing + L"'"));
+        EXPECT_TRUE(IsLoaded(thrower));
+        EXPECT_EQ(InitializationState(), 4);
+        Pointer<IException, 0> last = Library::ErrorManager()->TakeLastError();
+        ASSERT_TRUE(last);
+        EXPECT_THAT(last->Message(), StartsWith(L"Failed to load library '" + missingToo + L"'"))
+            << "every failure was reported";
+    });
+}
+
+} // namespace Quilon_::Tests::InitializationTests
