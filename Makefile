@@ -3,7 +3,7 @@
 
 JOBS      ?= 2
 BUILD_TYPE ?= RelWithDebInfo
-DEMO_ARGS ?= info --init tools/quilon/Demo.xml
+DEMO_ARGS ?= demo --init tools/quilon/Demo.xml
 
 BUILD_DIR := build
 ASAN_DIR  := build-asan

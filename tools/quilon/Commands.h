@@ -14,8 +14,9 @@ using Failures = std::vector<System::Pointer<System::IException, 1>>;
 
 // Prints the library version and the initialisation state.
 int Version(const Arguments& arguments);
-// Registers implementations on an operator of its own and calls it, to show
-// one call going through the frame end to end.
+// quilon demo [--init FILE]: starts the library, calls the operator and the
+// factory that the demo plug-in filled, then registers implementations on an
+// operator of its own to show the fall-back from one to the next.
 int Demo(const Arguments& arguments);
 // quilon info [--init FILE]: starts the library and prints what it loaded
 // and each failure; fails when a library did.

@@ -3,6 +3,8 @@
 #include "Quilon_/Library.h"
 #include "Quilon_/Startup.h"
 #include "Quilon_/System/Functions/Function.h"
+#include "Quilon_/System/Functions/FunctionRegistry.h"
+#include "Quilon_/System/Memory.h"
 #include "Quilon_/System/Raise.h"
 
 #include <cmath>
@@ -48,12 +50,51 @@ void Show(double value)
     }
 }
 
-} // namespace
+// The plug-in's greeting operator, found by name: the tool does not link
+// the plug-in, so the operator is reached through the registry and cast to
+// its signature, across the library boundary.
+using Greeting = Functions::Template::Function<std::wstring (*)(const std::wstring&)>;
 
-int Demo(const Arguments& arguments)
+const Greeting* FindGreeting()
 {
-    Version(arguments);
+    for (const auto& entry : Functions::FunctionRegistry::Entries())
+        if (entry.name == L"Quilon_::Demo::Functions::Greet")
+            return dynamic_cast<const Greeting*>(entry.function);
+    return nullptr;
+}
 
+void Greet(const Greeting& greet, const std::wstring& name)
+{
+    try {
+        std::printf("  Greet(\"%ls\") = \"%ls\"\n", name.c_str(), greet(name).c_str());
+    } catch (const Pointer<IException, 1>& failure) {
+        std::printf("  Greet(\"%ls\") failed: %ls\n", name.c_str(), failure->Message().c_str());
+    }
+}
+
+// The work the plug-in was loaded for: its operator, with fall-back from the
+// implementation registered last, and the core's memory factory that it
+// filled.
+void RunPluginWork()
+{
+    const Greeting* greet = FindGreeting();
+    if (!greet) {
+        std::printf("\nthe demo plug-in is not loaded: no greeting operator\n");
+        return;
+    }
+    std::printf("\noperator Quilon_::Demo::Functions::Greet, implementations in the order tried:\n");
+    for (const auto& implementation : greet->Implementations())
+        std::printf("  %ls\n", implementation.Name().Value().c_str());
+    Greet(*greet, L"world");
+    Greet(*greet, L"");
+
+    Pointer<IMemory, 1> block = Memory::New(1024, true);
+    std::printf("\nMemory::New(1024, true) from the plug-in: %lld bytes, first byte %d\n",
+                static_cast<long long>(block->Size()), static_cast<const unsigned char*>(block->Data())[0]);
+}
+
+void RunRootDemo()
+{
     std::printf("\noperator '%ls' without implementation:\n", Root().Name().c_str());
     Show(2.0);
 
@@ -69,7 +110,31 @@ int Demo(const Arguments& arguments)
 
     Pointer<IException, 0> last = Library::ErrorManager()->TakeLastError();
     std::printf("\nlast error of this thread: %ls\n", last ? last->Message().c_str() : L"(none)");
-    return 0;
+}
+
+} // namespace
+
+int Demo(const Arguments& arguments)
+{
+    StartOptions options;
+    if (!ParseStartOptions(arguments, options) || !options.rest.empty()) {
+        std::fputs("usage: quilon demo [--init FILE]\n", stderr);
+        return 2;
+    }
+    Failures failures = StartLibrary(options);
+    Version(Arguments());
+    std::printf("initialisation file: %ls\n", Library::InitializationFileName().c_str());
+    for (const std::wstring& library : Library::Libraries())
+        std::printf("  library %ls\n", library.c_str());
+    for (const auto& failure : failures)
+        PrintMessage(stdout, failure->Message());
+
+    RunPluginWork();
+    RunRootDemo();
+
+    const int status = failures.empty() ? 0 : 1;
+    StopLibrary(failures);
+    return status;
 }
 
 } // namespace Quilon_::Tool

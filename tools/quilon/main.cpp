@@ -4,7 +4,7 @@
 //   quilon info [--init FILE]                 start the library; what it loaded and what failed
 //   quilon operators [--init FILE] [PATTERN]  the operators known, with their implementations
 //   quilon version                            the library version and its initialisation state
-//   quilon demo                               one operator call through the frame, end to end
+//   quilon demo [--init FILE]                 work through the demo plug-in and the operator frame
 
 #include "Commands.h"
 
@@ -26,7 +26,7 @@ const Command commands[] = {
     {"info", &Quilon_::Tool::Info, "[--init FILE]: start the library; print what it loaded and each failure"},
     {"operators", &Quilon_::Tool::Operators, "[--init FILE] [PATTERN]: list operators and their implementations"},
     {"version", &Quilon_::Tool::Version, "print the library version and the initialisation state"},
-    {"demo", &Quilon_::Tool::Demo, "call an operator through the frame and show what happens"},
+    {"demo", &Quilon_::Tool::Demo, "[--init FILE]: run the demo plug-in's operators and show a fall-back"},
 };
 
 void PrintUsage(std::FILE* out)
