@@ -197,6 +197,17 @@ public:
     }
     iterator end() { return iterator(nullptr, this, false); }
 
+    // Whether a live node holds `value`, pending additions included, which
+    // begin() would pass over at the head.
+    bool Contains(const T& value) const noexcept
+    {
+        for (const Node* node = liveHead; node; node = node->liveNext) {
+            if (node->value == value)
+                return true;
+        }
+        return false;
+    }
+
     // Settled values; readable without the lock, as a hint.
     std::int64_t Count() const noexcept { return count.load(std::memory_order_relaxed); }
     std::int64_t PendingCount() const noexcept { return pendingCount; }
