@@ -191,8 +191,11 @@ private:
     {
         if (handlers.Contains(&key))
             return &key;
+        // Equals matches only entries of the key's target; asking Target()
+        // first spares it the class test of every other entry.
+        EventTargetBase* target = key.Target();
         for (auto it = handlers.begin(true), end = handlers.end(); it != end; ++it) {
-            if (key.Equals(*it))
+            if ((*it)->Target() == target && key.Equals(*it))
                 return *it;
         }
         return nullptr;
@@ -225,8 +228,11 @@ protected:
             typename Handler::Call call;
             if (!(*it)->Prepare(call))
                 continue;
+            // The last call may have the firing's own reference: nothing
+            // added from now on is reached by this walk.
+            const bool last = it.IsLast();
             System::Detail::EventUnlock unlocked;
-            call.Run(Args(args));
+            call.Run(last ? std::move(args) : Args(args));
         }
     }
 

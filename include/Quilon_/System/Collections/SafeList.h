@@ -95,6 +95,15 @@ public:
 
         bool operator==(const iterator& other) const noexcept { return m_node == other.m_node; }
 
+        // Whether a step would reach the end, as the list stands now.
+        bool IsLast() const noexcept
+        {
+            const Node* node = m_node ? m_node->next : nullptr;
+            while (node && !LandsOn(*node))
+                node = node->next;
+            return !node;
+        }
+
     private:
         friend class SafeList;
         iterator(Node* node, SafeList* list, bool includePending) noexcept
