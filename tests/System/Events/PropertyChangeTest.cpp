@@ -79,21 +79,21 @@ struct Makers {
     struct Registered {
         explicit Registered(Factory& factory) : f(factory)
         {
-            f.byValue.Register(&Value);
-            f.byValues.Register(&Values);
-            f.byIndexValue.Register(&IndexValue);
-            f.byIndexValues.Register(&IndexValues);
-            f.byInner.Register(&Inner);
-            f.byInnerValue.Register(&InnerValue);
+            Each([](auto& op, auto make) { op.Register(make); });
         }
         ~Registered()
         {
-            f.byValue.Unregister(&Value);
-            f.byValues.Unregister(&Values);
-            f.byIndexValue.Unregister(&IndexValue);
-            f.byIndexValues.Unregister(&IndexValues);
-            f.byInner.Unregister(&Inner);
-            f.byInnerValue.Unregister(&InnerValue);
+            Each([](auto& op, auto make) { op.Unregister(make); });
+        }
+        template <class Visit>
+        void Each(Visit visit)
+        {
+            visit(f.byValue, &Value);
+            visit(f.byValues, &Values);
+            visit(f.byIndexValue, &IndexValue);
+            visit(f.byIndexValues, &IndexValues);
+            visit(f.byInner, &Inner);
+            visit(f.byInnerValue, &InnerValue);
         }
         Factory& f;
     };
