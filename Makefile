@@ -23,9 +23,15 @@ run_tests = cd $(1) && $(2) $(CTEST) --output-on-failure -j$(JOBS)
 
 FORMAT_DIRS := include src startup basic tools tests bench fuzz
 
+# The long run of the concurrency suites: QUILON_STRESS multiplies their
+# iterations. STRESS_DIR=build-tsan runs it under ThreadSanitizer (after make tsan).
+STRESS ?= 100
+STRESS_DIR ?= $(BUILD_DIR)
+STRESS_FILTER ?= *Concurrency*:ReferenceCountTest.CopiesOnTwoThreads*
+
 # Steps run in the order written; Ninja and ctest parallelise inside each step.
 .NOTPARALLEL:
-.PHONY: all deps build test asan tsan demo bench format clean
+.PHONY: all deps build test asan tsan stress demo bench format clean
 
 all: build
 
@@ -49,6 +55,11 @@ tsan:
 	$(call configure,$(TSAN_DIR),-DQUILON_TSAN=ON -DQUILON_BUILD_BENCH=OFF)
 	$(call compile,$(TSAN_DIR))
 	$(call run_tests,$(TSAN_DIR),$(TSAN_ENV))
+
+stress: build
+	$(call compile,$(STRESS_DIR))
+	cd $(STRESS_DIR) && $(ASAN_ENV) $(TSAN_ENV) QUILON_STRESS=$(STRESS) \
+	    bin/quilon_tests --gtest_filter='$(STRESS_FILTER)'
 
 demo: deps build
 	$(BUILD_DIR)/bin/quilon $(DEMO_ARGS)

@@ -80,12 +80,19 @@ std::int64_t ReferenceCounting::ReleaseAtEdge(Object& object, Interop::IProxy* c
             if (count != 0)
                 return count;
         }
-        if (proxy)
+        if (proxy) {
             unpin = proxy;
-        else if (InitializationState() < 0)
+        } else if (InitializationState() < 0) {
             return 0;
-        else
-            object.count.store(Object::DeletionCount, std::memory_order_relaxed);
+        } else {
+            // The inline path of AddReference does not take this lock: code
+            // that takes a reference on an object it found in a list (an
+            // event's target, a weak reference's object) may bring the count
+            // from 0 to 1 right now, and then the object lives on.
+            std::int64_t zero = 0;
+            if (!object.count.compare_exchange_strong(zero, Object::DeletionCount, std::memory_order_acq_rel))
+                return 0;
+        }
     }
     if (unpin) {
         unpin->Unpin();

@@ -44,6 +44,7 @@ public:
         m_log.push_back("notify");
         onNotify();
     }
+    System::DestroyedEvent& Destroyed() override { return m_destroyed; }
 
     std::function<void()> onNotify = [] {}, failClear = [] {};
 
@@ -58,6 +59,7 @@ private:
     void OnEventTargetReset() override {}
 
     Steps& m_log;
+    System::DestroyedEvent m_destroyed{this};
 };
 
 TEST(ReferenceCountTest, DeletionBreaksConnectionsThenNotifiesThenDestroysOnce)

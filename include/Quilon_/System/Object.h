@@ -128,6 +128,19 @@ struct QUILON_API ReferenceCounting {
 
 namespace Detail {
 
+// Takes a reference on `object` unless its deletion has begun. Lists that a
+// deletion empties under the general critical section (handler lists, weak
+// references) may still hold an object whose count has reached 0 on another
+// thread, waiting for that section; a reference taken then would not keep
+// it alive. Call under the general critical section.
+inline bool AddReferenceUnlessDying(Interface* object)
+{
+    if (object->AddReference() <= Object::DeletionCount)
+        return true;
+    object->ReleaseReference();
+    return false;
+}
+
 // Keeps an object from being deleted while it is alive: the count is raised
 // for the guard's lifetime, and lowering it again never deletes, even at 0.
 class QUILON_API PreventDestruction {

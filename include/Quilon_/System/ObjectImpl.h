@@ -11,10 +11,20 @@
 //   };
 //
 // A class that answers casts for another object overrides FindDelegate.
+//
+// The list of interfaces may name mixins too: with EventTarget among them
+// the deletion sequence clears the object's event handlers, with
+// Template::IDestructionEventsImpl (DestructionEvents.h) it tells the
+// listeners of its Destroyed event, which is what weak references need:
+//
+//   class CNode : public System::Template::ObjectImpl<CNode, INode, System::Template::IDestructionEventsImpl> {};
+//   System::WeakReference<INode> weak(node);   // null once the node is gone
 #pragma once
 
 #include "Quilon_/Interop/Proxy.h"
 #include "Quilon_/System/Object.h"
+
+#include <type_traits>
 
 namespace Quilon_::System::Template {
 
@@ -29,6 +39,21 @@ public:
     bool FindDelegate(const Type& type, void*& target, bool& exact) override
     {
         return Detail::FindNoDelegate(type, target, exact);
+    }
+
+    EventTarget* AsEventTarget() override
+    {
+        if constexpr ((std::is_convertible_v<Interfaces*, EventTarget*> || ...))
+            return this;
+        else
+            return nullptr;
+    }
+    IDestructionEvents* AsIDestructionEvents() override
+    {
+        if constexpr ((std::is_convertible_v<Interfaces*, IDestructionEvents*> || ...))
+            return this;
+        else
+            return nullptr;
     }
 
     void SetProxy(Interop::IProxy* value) override { Interop::IProxyContainerImpl::SetProxy(*this, value); }

@@ -1,0 +1,36 @@
+// The lock of every event, handler list and weak reference: the general
+// critical section of the companion library, taken for a scope.
+//
+// It is recursive, so code that already holds it (a deletion, a handler
+// list being walked) may call into other lists. A firing leaves it around
+// each handler call, however deep it was taken, only once:
+//
+//   Detail::EventLock lock;            // Enter now, Leave at scope end
+//   ... walk a list ...
+//   {
+//       Detail::EventUnlock unlocked;  // Leave now, Enter again at scope end
+//       call();                        // also when call() throws
+//   }
+#pragma once
+
+#include "Quilon_/Startup.h"
+
+namespace Quilon_::System::Detail {
+
+class EventLock {
+public:
+    EventLock() { EnterGeneralCriticalSection(); }
+    ~EventLock() { LeaveGeneralCriticalSection(); }
+    EventLock(const EventLock&) = delete;
+    EventLock& operator=(const EventLock&) = delete;
+};
+
+class EventUnlock {
+public:
+    EventUnlock() { LeaveGeneralCriticalSection(); }
+    ~EventUnlock() { EnterGeneralCriticalSection(); }
+    EventUnlock(const EventUnlock&) = delete;
+    EventUnlock& operator=(const EventUnlock&) = delete;
+};
+
+} // namespace Quilon_::System::Detail

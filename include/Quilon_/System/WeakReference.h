@@ -1,0 +1,109 @@
+// A reference that does not keep its object alive, and reads null once the
+// object is gone.
+//
+// The object must offer IDestructionEvents: the weak reference listens to
+// its Destroyed event and lets go when it fires.
+//
+//   WeakReference<INode> weak(node.Get());
+//   if (Pointer<INode, 0> alive = weak.Target())   // a counted reference, or null
+//       alive->Visit();
+//
+// Reading and resetting are safe from any thread; the object may die on
+// another thread meanwhile.
+#pragma once
+
+#include "Quilon_/System/DestructionEvents.h"
+#include "Quilon_/System/Event.h"
+#include "Quilon_/System/EventLock.h"
+#include "Quilon_/System/EventTarget.h"
+
+namespace Quilon_::System {
+
+namespace Detail {
+// "WeakReference<> requisite: %1% should implement IDestructionEvents".
+[[noreturn]] QUILON_API void RaiseWeakReferenceRequisite(const Type& type);
+} // namespace Detail
+
+namespace Template {
+
+template <class T>
+class WeakReference : public EventTarget {
+    using DestroyedHandler = EventHandler1<Interface, WeakReference, Pointer<IEventArgs, 1>>;
+
+public:
+    WeakReference() noexcept = default;
+    WeakReference(T* target) { SetTarget(target); }
+    // A copy listens to the same object on its own.
+    WeakReference(const WeakReference& other) : EventTarget() { SetTarget(other.Raw()); }
+    WeakReference& operator=(const WeakReference& other)
+    {
+        if (this != &other)
+            SetTarget(other.Raw());
+        return *this;
+    }
+    // The target goes first, then the handler, in one step: the object may
+    // fire Destroyed on another thread meanwhile.
+    ~WeakReference() override
+    {
+        System::Detail::EventLock lock;
+        m_target = nullptr;
+        ClearEventHandlers();
+    }
+
+    // Stops listening to the current object and starts listening to
+    // `target`. An object without IDestructionEvents raises, and leaves
+    // this reference holding nothing.
+    void SetTarget(T* target)
+    {
+        System::Detail::EventLock lock;
+        if (target == m_target)
+            return;
+        if (m_target) {
+            if (auto* events = DestructionEvents(m_target))
+                events->Destroyed() -= new DestroyedHandler(this, &WeakReference::OnTargetDestroyed);
+        }
+        m_target = nullptr;
+        if (!target)
+            return;
+        auto* events = DestructionEvents(target);
+        if (!events)
+            System::Detail::RaiseWeakReferenceRequisite(T::GetType());
+        events->Destroyed() += new DestroyedHandler(this, &WeakReference::OnTargetDestroyed);
+        m_target = target;
+    }
+
+    // A counted reference to the object, or null once it is gone or going.
+    Pointer<T, 0> Target() const
+    {
+        System::Detail::EventLock lock;
+        if (!m_target || !System::Detail::AddReferenceUnlessDying(m_target))
+            return nullptr;
+        Pointer<T, 0> alive(m_target);
+        m_target->ReleaseReference();
+        return alive;
+    }
+
+    void OnEventTargetReset() override {}
+
+private:
+    T* Raw() const
+    {
+        System::Detail::EventLock lock;
+        return m_target;
+    }
+
+    static IDestructionEvents* DestructionEvents(T* target)
+    {
+        return System::Detail::InterfaceCast<IDestructionEvents>(static_cast<Interface*>(target));
+    }
+
+    void OnTargetDestroyed(Interface*, Pointer<IEventArgs, 1>) { SetTarget(nullptr); }
+
+    T* m_target = nullptr;
+};
+
+} // namespace Template
+
+using Template::WeakReference;
+
+} // namespace Quilon_::System
