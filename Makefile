@@ -45,6 +45,7 @@ build:
 test: deps build
 	$(call run_tests,$(BUILD_DIR))
 	$(MAKE) --no-print-directory asan
+	$(MAKE) --no-print-directory tsan
 
 asan:
 	$(call configure,$(ASAN_DIR),-DQUILON_SANITIZE=ON -DQUILON_BUILD_BENCH=OFF)
