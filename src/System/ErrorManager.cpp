@@ -2,15 +2,16 @@
 
 #include "Quilon_/Startup.h"
 #include "Quilon_/System/ObjectImpl.h"
+#include "Quilon_/System/Threading/Lockable.h"
+#include "Quilon_/System/Threading/ScopedLock.h"
 #include "Quilon_/System/Threading/ThreadId.h"
 #include "Quilon_/System/Type.h"
 
-#include <mutex>
 #include <unordered_map>
 
 namespace Quilon_::System {
 
-QUILON_DEFINE_INTERFACE_TYPE(IWarningEventArgs, L"Quilon_::System::IWarningEventArgs", Interface)
+QUILON_DEFINE_INTERFACE_TYPE(IWarningEventArgs, L"Quilon_::System::IWarningEventArgs", IEventArgs)
 QUILON_DEFINE_INTERFACE_TYPE(IErrorManager, L"Quilon_::System::IErrorManager", Interface)
 
 namespace {
@@ -85,7 +86,7 @@ PerThreadStore<Pointer<IWarningEventArgs, 0>>& LastWarnings()
     return *store;
 }
 
-class CErrorManager : public Template::ObjectImpl<CErrorManager, IErrorManager> {
+class CErrorManager : public Template::ObjectImpl<CErrorManager, IErrorManager, Threading::ILockable> {
 public:
     void Warn(Pointer<IException, 1> warning, WarningLevelEnum level, Any tag) override
     {
@@ -98,6 +99,8 @@ public:
     Pointer<IException, 0> TakeLastError() override { return LastErrors().Take(); }
     void SetLastError(Pointer<IException, 0> error) override { LastErrors().Set(std::move(error)); }
     Pointer<IWarningEventArgs, 0> LastWarning() override { return LastWarnings().Get(); }
+    Event<Pointer<IWarningEventArgs, 1>>& WarningRaised() override { return m_warningRaised; }
+    Threading::MutexBase& GetMutex() override { return m_mutex; }
 
 private:
     // Listeners run with the manager's lock held; a warning raised while
@@ -105,14 +108,16 @@ private:
     template <class MakeArgs>
     void Notify(const Pointer<IException, 1>& warning, MakeArgs makeArgs)
     {
-        std::unique_lock<std::recursive_mutex> lock(m_lock);
+        Threading::ScopedLock lock(m_mutex, __FILE__, __LINE__);
         if (m_inWarning)
             return;
         bool wasInWarning = m_inWarning;
         m_inWarning = true;
         try {
             Template::Policy<1>::CheckInterface(warning.Get());
-            LastWarnings().Set(makeArgs());
+            Pointer<IWarningEventArgs, 1> args = makeArgs();
+            LastWarnings().Set(args);
+            m_warningRaised.Fire(args);
         } catch (...) {
             m_inWarning = wasInWarning;
             throw;
@@ -120,8 +125,9 @@ private:
         m_inWarning = wasInWarning;
     }
 
-    std::recursive_mutex m_lock;
+    Threading::Mutex m_mutex;
     bool m_inWarning = false;
+    Event<Pointer<IWarningEventArgs, 1>> m_warningRaised{this};
 };
 
 Pointer<IErrorManager, 1> NewErrorManager()

@@ -21,8 +21,10 @@ public:
     Pointer<IException, 0> TakeLastError() override { return std::exchange(lastError, nullptr); }
     void SetLastError(Pointer<IException, 0> error) override { lastError = error; }
     Pointer<IWarningEventArgs, 0> LastWarning() override { return nullptr; }
+    Event<Pointer<IWarningEventArgs, 1>>& WarningRaised() override { return warningRaised; }
 
     Pointer<IException, 0> lastError;
+    Event<Pointer<IWarningEventArgs, 1>> warningRaised{this};
 };
 
 TEST(LibraryTest, VersionAndDefaultManagers)

@@ -30,7 +30,8 @@ using Thing = System::Pointer<Kernel::IThing, 1>;
 // `callsIntoDead`.
 class CListener : public System::Template::ObjectImpl<CListener, Kernel::IThing, System::EventTarget> {
 public:
-    explicit CListener(Calls* calls = nullptr, std::string name = {}, std::atomic<int>* callsIntoDead = nullptr)
+    explicit CListener(Calls* calls = nullptr, std::string name = {},
+                       std::atomic<int>* callsIntoDead = nullptr)
         : m_calls(calls), m_name(std::move(name)), m_callsIntoDead(callsIntoDead)
     {
     }
@@ -71,6 +72,30 @@ class CSource
 public:
     int Value() override { return 0; }
     TestEvent Changed{this};
+};
+
+// A listener of any event that keeps the args it was given, and runs
+// `onCall` on each.
+//
+//   auto* warnings = new CArgsRecorder<Pointer<IWarningEventArgs, 1>>;
+//   Thing held(warnings);
+//   manager->WarningRaised() += warnings->Handler();
+template <class EventArgs>
+class CArgsRecorder
+    : public System::Template::ObjectImpl<CArgsRecorder<EventArgs>, Kernel::IThing, System::EventTarget> {
+public:
+    int Value() override { return static_cast<int>(received.size()); }
+    void OnEventTargetReset() override {}
+    void OnEvent(System::Interface*, EventArgs args)
+    {
+        received.push_back(args);
+        if (onCall)
+            onCall(args);
+    }
+    System::EventHandlerBase* Handler() { return System::NewEventHandler(this, &CArgsRecorder::OnEvent); }
+
+    std::vector<EventArgs> received;
+    std::function<void(EventArgs& args)> onCall;
 };
 
 inline CListener& Listener(const Thing& thing)

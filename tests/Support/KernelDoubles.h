@@ -92,8 +92,12 @@ public:
     {
         traced.emplace_back(message, category);
     }
+    System::Event<System::Pointer<System::Diagnostic::ITracingEventArgs, 1>>& Traced() override { return m_traced; }
 
     std::vector<std::pair<std::wstring, std::wstring>> traced;
+
+private:
+    System::Event<System::Pointer<System::Diagnostic::ITracingEventArgs, 1>> m_traced{this};
 };
 
 } // namespace Quilon_::Tests::Kernel

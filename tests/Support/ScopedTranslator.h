@@ -30,9 +30,15 @@ public:
         return true;
     }
     std::vector<std::wstring> MissingTranslations() override { return {}; }
+    System::Event<System::Pointer<System::Localization::ITranslationRequestedEventArgs, 1>>&
+    TranslationRequested() override
+    {
+        return m_requested;
+    }
 
 private:
     std::wstring m_key, m_text;
+    System::Event<System::Pointer<System::Localization::ITranslationRequestedEventArgs, 1>> m_requested{this};
 };
 
 // Installs a COneKeyTranslator for the scope; at its end none is set.

@@ -3,6 +3,8 @@
 #include "Quilon_/System/ErrorManager.h"
 #include "Quilon_/System/Exception.h"
 
+#include "../Support/EventDoubles.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
@@ -56,6 +58,30 @@ TEST(ErrorManagerTest, NullWarningRaisesAndLeavesTheManagerUsable)
     manager->TakeLastError();
     manager->Warn(MakeError(L"after"), wlInformation);
     EXPECT_EQ(manager->LastWarning()->Level(), wlInformation);
+}
+
+TEST(ErrorManagerTest, WarningRaisedOnceEvenWhenAListenerWarnsAgain)
+{
+    Pointer<IErrorManager, 1> manager = ErrorManager::New();
+    using Recorder = Events::CArgsRecorder<Pointer<IWarningEventArgs, 1>>;
+    auto* listener = new Recorder;
+    Events::Thing heldlistener(listener);
+    manager->WarningRaised() += listener->Handler();
+    listener->onCall = [&](Pointer<IWarningEventArgs, 1>&) { manager->Warn(MakeError(L"inner"), wlSevere); };
+
+    Pointer<IException, 1> warning = MakeError(L"outer");
+    manager->Warn(warning, wlWarning, ToAny(std::int64_t(7)));
+    ASSERT_EQ(listener->received.size(), 1u);
+    Pointer<IWarningEventArgs, 1> args = listener->received[0];
+    EXPECT_TRUE(args->Warning() == warning);
+    EXPECT_EQ(args->Tag().CastTo<std::int64_t>(), 7);
+    // The listener saw the args that were kept as the last warning.
+    EXPECT_TRUE(manager->LastWarning() == args);
+
+    // The guard is down again after the firing.
+    listener->onCall = nullptr;
+    manager->Warn(MakeError(L"next"), wlInformation);
+    EXPECT_EQ(listener->received.size(), 2u);
 }
 
 } // namespace Quilon_::Tests::ErrorManagerTests

@@ -8,6 +8,8 @@
 #pragma once
 
 #include "Quilon_/System/Any.h"
+#include "Quilon_/System/Event.h"
+#include "Quilon_/System/EventArgs.h"
 #include "Quilon_/System/Exception.h"
 #include "Quilon_/System/Functions/Function.h"
 
@@ -21,7 +23,7 @@ enum WarningLevelEnumTag : std::int32_t {
 };
 using WarningLevelEnum = WarningLevelEnumTag;
 
-class QUILON_API IWarningEventArgs : public virtual Interface {
+class QUILON_API IWarningEventArgs : public virtual IEventArgs {
     QUILON_INTERFACE(IWarningEventArgs)
 public:
     virtual Pointer<IException, 1> Warning() = 0;
@@ -40,6 +42,8 @@ public:
     virtual void SetLastError(Pointer<IException, 0> error) = 0;
     // The calling thread's last warning, left in place.
     virtual Pointer<IWarningEventArgs, 0> LastWarning() = 0;
+    // Fired by each Warn, with the lock of the manager held.
+    virtual Event<Pointer<IWarningEventArgs, 1>>& WarningRaised() = 0;
 };
 
 namespace WarningEventArgs {

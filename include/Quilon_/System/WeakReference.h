@@ -12,10 +12,13 @@
 // another thread meanwhile.
 #pragma once
 
+#include "Quilon_/System/Any.h"
 #include "Quilon_/System/DestructionEvents.h"
 #include "Quilon_/System/Event.h"
 #include "Quilon_/System/EventLock.h"
 #include "Quilon_/System/EventTarget.h"
+
+#include <vector>
 
 namespace Quilon_::System {
 
@@ -73,6 +76,9 @@ public:
     }
 
     // A counted reference to the object, or null once it is gone or going.
+    // Two weak references are equal when they refer to the same object.
+    friend bool operator==(const WeakReference& a, const WeakReference& b) noexcept { return a.Raw() == b.Raw(); }
+
     Pointer<T, 0> Target() const
     {
         System::Detail::EventLock lock;
@@ -105,5 +111,10 @@ private:
 } // namespace Template
 
 using Template::WeakReference;
+
+// Boxed by their own type: the Any keeps a weak reference of its own, which
+// reads null once the object is gone.
+QUILON_API Any ToAny(const WeakReference<Interface>& value);
+QUILON_API Any ToAny(const std::vector<WeakReference<Interface>>& value);
 
 } // namespace Quilon_::System

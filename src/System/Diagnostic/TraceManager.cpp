@@ -6,7 +6,7 @@
 
 namespace Quilon_::System::Diagnostic {
 
-QUILON_DEFINE_INTERFACE_TYPE(ITracingEventArgs, L"Quilon_::System::Diagnostic::ITracingEventArgs", Interface)
+QUILON_DEFINE_INTERFACE_TYPE(ITracingEventArgs, L"Quilon_::System::Diagnostic::ITracingEventArgs", IEventArgs)
 QUILON_DEFINE_INTERFACE_TYPE(ITraceManager, L"Quilon_::System::Diagnostic::ITraceManager", Interface)
 
 namespace {
@@ -39,14 +39,19 @@ public:
     void Trace(const std::wstring& message, const std::wstring& category, const std::wstring& function,
                const std::wstring& file, std::int64_t line) override
     {
-        // The arguments are what the listeners of the trace event receive.
-        Pointer<ITracingEventArgs, 1> args = TracingEventArgs::New(message, category, function, file, line);
-        static_cast<void>(args);
+        // Nothing to build when nobody listens: tracing is called on paths
+        // that must stay cheap.
+        if (m_traced)
+            m_traced.Fire(TracingEventArgs::New(message, category, function, file, line));
     }
     void Trace(const std::wstring& message, const std::wstring& category) override
     {
         Trace(message, category, std::wstring(), std::wstring(), 0);
     }
+    Event<Pointer<ITracingEventArgs, 1>>& Traced() override { return m_traced; }
+
+private:
+    Event<Pointer<ITracingEventArgs, 1>> m_traced{this};
 };
 
 Pointer<ITraceManager, 1> NewTraceManager()

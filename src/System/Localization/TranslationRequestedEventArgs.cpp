@@ -6,7 +6,7 @@
 namespace Quilon_::System::Localization {
 
 QUILON_DEFINE_INTERFACE_TYPE(ITranslationRequestedEventArgs,
-                             L"Quilon_::System::Localization::ITranslationRequestedEventArgs", Interface)
+                             L"Quilon_::System::Localization::ITranslationRequestedEventArgs", IEventArgs)
 
 namespace {
 

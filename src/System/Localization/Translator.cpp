@@ -33,7 +33,7 @@ public:
         if (key.empty())
             return true;
         Pointer<ITranslationRequestedEventArgs, 1> request = TranslationRequestedEventArgs::New(key);
-        FireTranslationRequested(request);
+        m_translationRequested.Fire(request);
         if (request->Handled()) {
             text = request->Text();
             return true;
@@ -54,11 +54,13 @@ public:
         m_missing.insert(key);
     }
 
-private:
-    // Hands the request to the listeners, on the calling thread and with no
-    // lock held. The request event is not connected yet: nobody listens.
-    void FireTranslationRequested(const Pointer<ITranslationRequestedEventArgs, 1>&) {}
+    Event<Pointer<ITranslationRequestedEventArgs, 1>>& TranslationRequested() override
+    {
+        return m_translationRequested;
+    }
 
+private:
+    Event<Pointer<ITranslationRequestedEventArgs, 1>> m_translationRequested{this};
     std::mutex m_missingLock;
     std::set<std::wstring> m_missing;
 };

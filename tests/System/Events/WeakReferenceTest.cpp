@@ -1,8 +1,8 @@
 // Weak references: listening to the object's destruction, and refusing
 // objects that cannot tell.
+#include "Quilon_/System/WeakReference.h"
 #include "Quilon_/Library.h"
 #include "Quilon_/System/Type.h"
-#include "Quilon_/System/WeakReference.h"
 
 #include "../../Support/EventDoubles.h"
 #include "../../Support/Raised.h"
@@ -36,6 +36,17 @@ TEST(WeakReferenceTest, ReadsTheObjectWhileItLivesAndNullOnceItIsGone)
         WeakReference<IThing> dying(second.Get());
     }
     EXPECT_EQ(Source(second).Destroyed().HandlerCount(), 1) << "a dying weak reference stops listening";
+}
+
+TEST(WeakReferenceTest, BoxedInAnAnyItStillReadsNullOnceTheObjectIsGone)
+{
+    Pointer<IThing, 0> thing(new CSource);
+    System::Any boxed = System::ToAny(WeakReference<System::Interface>(thing.Get()));
+    EXPECT_EQ(dynamic_cast<CSource&>(*thing).Destroyed().HandlerCount(), 1)
+        << "the Any holds a weak reference of its own";
+    EXPECT_TRUE(boxed.CastTo<WeakReference<System::Interface>>().Target() == thing);
+    thing = nullptr;
+    EXPECT_FALSE(boxed.CastTo<WeakReference<System::Interface>>().Target());
 }
 
 TEST(WeakReferenceTest, AnObjectWithoutDestructionEventsIsRefusedAndNothingIsHeld)

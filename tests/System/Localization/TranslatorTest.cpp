@@ -4,7 +4,7 @@
 #include "Quilon_/System/Localization/Translator.h"
 #include "Quilon_/Library.h"
 
-#include "../../Support/KernelDoubles.h"
+#include "../../Support/EventDoubles.h"
 
 #include <gtest/gtest.h>
 
@@ -39,28 +39,23 @@ TEST(DefaultTranslator, ShowsKeysByTheirDefaultTextAndListsEachMissingKeyOnce)
                                                   L"Viewer.Title.ds.Image viewer"}));
 }
 
-// Requests for "Open" arrive already answered, as a listener would leave them.
-Pointer<ITranslationRequestedEventArgs, 1> AnsweredRequest(const std::wstring& key)
-{
-    Pointer<ITranslationRequestedEventArgs, 1> request =
-        TranslationRequestedEventArgs::New.Implementations().back().function(key);
-    if (key == L"Open") {
-        request->SetText(L"Öffnen");
-        request->SetHandled(true);
-    }
-    return request;
-}
-
-TEST(DefaultTranslator, UsesTheTextOfAHandledRequest)
+TEST(DefaultTranslator, UsesTheTextOfARequestThatAListenerHandled)
 {
     Pointer<ITranslator, 1> translator = Translator::New();
-    TranslationRequestedEventArgs::New.Register(&AnsweredRequest);
-    std::wstring open = translator->Translate(L"Open");
-    std::wstring close = translator->Translate(L"Close.ds.Schließen");
-    TranslationRequestedEventArgs::New.Unregister(&AnsweredRequest);
+    using Recorder = Events::CArgsRecorder<Pointer<ITranslationRequestedEventArgs, 1>>;
+    auto* german = new Recorder;
+    Events::Thing heldgerman(german);
+    german->onCall = [](Pointer<ITranslationRequestedEventArgs, 1>& request) {
+        if (request->Key() == L"Open") {
+            request->SetText(L"Öffnen");
+            request->SetHandled(true);
+        }
+    };
+    translator->TranslationRequested() += german->Handler();
 
-    EXPECT_EQ(open, L"Öffnen");
-    EXPECT_EQ(close, L"Schließen");
+    EXPECT_EQ(translator->Translate(L"Open"), L"Öffnen");
+    EXPECT_EQ(translator->Translate(L"Close.ds.Schließen"), L"Schließen");
+    EXPECT_EQ(german->received.size(), 2u);
     EXPECT_EQ(translator->MissingTranslations(), std::vector<std::wstring>{L"Close.ds.Schließen"});
 }
 
@@ -79,9 +74,13 @@ TEST(DefaultTranslator, KeepsTheMissingKeysOfAllThreads)
 
 TEST(DumpMissingTranslations, TracesTheKeysMissingBeforeTheDump)
 {
-    auto* trace = new Kernel::CRecordingTrace;
-    Pointer<Diagnostic::ITraceManager, 1> held(trace);
-    Library::SetTraceManager(held);
+    // The default trace manager, heard through its event.
+    using Recorder = Events::CArgsRecorder<Pointer<Diagnostic::ITracingEventArgs, 1>>;
+    auto* trace = new Recorder;
+    Events::Thing heldtrace(trace);
+    Pointer<Diagnostic::ITraceManager, 1> manager = Diagnostic::TraceManager::New();
+    manager->Traced() += trace->Handler();
+    Library::SetTraceManager(manager);
     Library::SetTranslator(Translator::New());
     Library::Translator()->Translate(L"Second");
     Library::Translator()->Translate(L"First.ds.Erste");
@@ -91,9 +90,12 @@ TEST(DumpMissingTranslations, TracesTheKeysMissingBeforeTheDump)
     Library::SetTraceManager(nullptr);
 
     using Line = std::pair<std::wstring, std::wstring>;
-    EXPECT_EQ(trace->traced, (std::vector<Line>{{L"Missing translations: 2", L"Translator.Localization"},
-                                                {L"First.ds.Erste", L"Translator.Missing Translations"},
-                                                {L"Second", L"Translator.Missing Translations"}}));
+    std::vector<Line> traced;
+    for (const auto& args : trace->received)
+        traced.emplace_back(args->Message(), args->Category());
+    EXPECT_EQ(traced, (std::vector<Line>{{L"Missing translations: 2", L"Translator.Localization"},
+                                         {L"First.ds.Erste", L"Translator.Missing Translations"},
+                                         {L"Second", L"Translator.Missing Translations"}}));
     // The texts of the dump went through the translator like all text.
     EXPECT_EQ(used->MissingTranslations().size(), 5u);
 }

@@ -4,6 +4,8 @@
 //   Library::TraceManager()->Trace(L"Delete failed (...)", L"Allocation");
 #pragma once
 
+#include "Quilon_/System/Event.h"
+#include "Quilon_/System/EventArgs.h"
 #include "Quilon_/System/Functions/Function.h"
 
 #include <cstdint>
@@ -11,7 +13,7 @@
 
 namespace Quilon_::System::Diagnostic {
 
-class QUILON_API ITracingEventArgs : public virtual Interface {
+class QUILON_API ITracingEventArgs : public virtual IEventArgs {
     QUILON_INTERFACE(ITracingEventArgs)
 public:
     virtual std::wstring Message() = 0;
@@ -27,6 +29,8 @@ public:
     virtual void Trace(const std::wstring& message, const std::wstring& category, const std::wstring& function,
                        const std::wstring& file, std::int64_t line) = 0;
     virtual void Trace(const std::wstring& message, const std::wstring& category) = 0;
+    // Fired by each Trace, on the tracing thread.
+    virtual Event<Pointer<ITracingEventArgs, 1>>& Traced() = 0;
 };
 
 namespace TracingEventArgs {

@@ -7,13 +7,14 @@
 //   request->SetHandled(true);
 #pragma once
 
+#include "Quilon_/System/EventArgs.h"
 #include "Quilon_/System/Functions/Function.h"
 
 #include <string>
 
 namespace Quilon_::System::Localization {
 
-class QUILON_API ITranslationRequestedEventArgs : public virtual Interface {
+class QUILON_API ITranslationRequestedEventArgs : public virtual IEventArgs {
     QUILON_INTERFACE(ITranslationRequestedEventArgs)
 public:
     virtual std::wstring Key() = 0;

@@ -7,6 +7,7 @@
 //   Localization::DumpMissingTranslations();                       // to the trace manager
 #pragma once
 
+#include "Quilon_/System/Event.h"
 #include "Quilon_/System/Functions/Function.h"
 #include "Quilon_/System/Localization/TranslationRequestedEventArgs.h"
 
@@ -26,6 +27,9 @@ public:
     virtual bool TryTranslate(const std::wstring& key, std::wstring& text) = 0;
     // The keys that found no translation so far.
     virtual std::vector<std::wstring> MissingTranslations() = 0;
+    // Asked for each key, on the translating thread; a listener that knows
+    // the key sets the text and marks the request handled.
+    virtual Event<Pointer<ITranslationRequestedEventArgs, 1>>& TranslationRequested() = 0;
 };
 
 // Adds keys to the list of missing translations.
