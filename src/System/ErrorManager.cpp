@@ -2,6 +2,7 @@
 
 #include "Quilon_/Startup.h"
 #include "Quilon_/System/ObjectImpl.h"
+#include "Quilon_/System/Threading/CriticalSection.h"
 #include "Quilon_/System/Threading/Lockable.h"
 #include "Quilon_/System/Threading/ScopedLock.h"
 #include "Quilon_/System/Threading/ThreadId.h"
@@ -39,13 +40,13 @@ class PerThreadStore {
 public:
     Value Get()
     {
-        Guard guard;
+        Threading::GeneralCriticalSectionScope guard;
         auto found = m_values.find(Threading::CurrentThreadId());
         return found == m_values.end() ? Value() : found->second;
     }
     Value Take()
     {
-        Guard guard;
+        Threading::GeneralCriticalSectionScope guard;
         auto found = m_values.find(Threading::CurrentThreadId());
         if (found == m_values.end())
             return Value();
@@ -57,7 +58,7 @@ public:
     {
         Value old;
         {
-            Guard guard;
+            Threading::GeneralCriticalSectionScope guard;
             Value& slot = m_values[Threading::CurrentThreadId()];
             old = std::move(slot);
             slot = std::move(value);
@@ -66,10 +67,6 @@ public:
     }
 
 private:
-    struct Guard {
-        Guard() { EnterGeneralCriticalSection(); }
-        ~Guard() { LeaveGeneralCriticalSection(); }
-    };
     std::unordered_map<std::uint32_t, Value, Threading::ThreadIdHash> m_values;
 };
 

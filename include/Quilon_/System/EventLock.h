@@ -14,16 +14,11 @@
 #pragma once
 
 #include "Quilon_/Startup.h"
+#include "Quilon_/System/Threading/CriticalSection.h"
 
 namespace Quilon_::System::Detail {
 
-class EventLock {
-public:
-    EventLock() { EnterGeneralCriticalSection(); }
-    ~EventLock() { LeaveGeneralCriticalSection(); }
-    EventLock(const EventLock&) = delete;
-    EventLock& operator=(const EventLock&) = delete;
-};
+using EventLock = Threading::GeneralCriticalSectionScope;
 
 class EventUnlock {
 public:
