@@ -23,6 +23,7 @@
 #include "Quilon_/System/EventTarget.h"
 #include "Quilon_/System/Exception.h"
 #include "Quilon_/System/Formatter.h"
+#include "Quilon_/System/Functions/Factory.h"
 #include "Quilon_/System/Functions/Function.h"
 #include "Quilon_/System/Functions/FunctionRegistry.h"
 #include "Quilon_/System/Functions/FunctionSlot.h"
