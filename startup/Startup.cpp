@@ -3,11 +3,14 @@
 // constructors and destructors, in whatever order the loader chooses.
 
 #include "Quilon_/Startup.h"
+#include "Quilon_/System/Threading/GeneralCriticalSection.h"
+
+#include <linux/futex.h>
+#include <sys/syscall.h>
+#include <unistd.h>
 
 #include <atomic>
 #include <cstdlib>
-#include <mutex>
-#include <new>
 
 namespace Quilon_::System {
 
@@ -16,16 +19,47 @@ namespace {
 // Constant-initialised, so valid before any constructor of any library runs.
 std::atomic<int> g_initializationState{0};
 
-// Built on first use and never destroyed: a static destructor of another
-// library may still enter the section after this library's destructors ran.
-std::recursive_mutex& GeneralCriticalSection()
+int* FutexWord()
 {
-    alignas(std::recursive_mutex) static unsigned char storage[sizeof(std::recursive_mutex)];
-    static std::recursive_mutex* const section = new (storage) std::recursive_mutex;
-    return *section;
+    static_assert(sizeof(std::atomic<int>) == sizeof(int));
+    return reinterpret_cast<int*>(&Detail::g_generalSection.word);
+}
+
+// Holders keep the section for a few hundred instructions at most, so a
+// short spin saves most waits their two system calls.
+bool SpinUntilFree()
+{
+    for (int i = 0; i < 100; ++i) {
+        if (Detail::g_generalSection.word.load(std::memory_order_relaxed) == 0)
+            return true;
+#if defined(__x86_64__) || defined(__i386__)
+        __builtin_ia32_pause();
+#endif
+    }
+    return false;
 }
 
 } // namespace
+
+// Constant-initialised and trivially destructible: valid before the first
+// constructor of any library and after the last destructor.
+constinit Detail::GeneralSection Detail::g_generalSection{};
+
+// The classic three-state futex lock: whoever finds the word taken marks it
+// 2 before sleeping, so the holder knows to wake somebody when it leaves.
+void Detail::WaitForGeneralSection() noexcept
+{
+    int expected = 0;
+    if (SpinUntilFree() && g_generalSection.word.compare_exchange_strong(expected, 1, std::memory_order_acquire))
+        return;
+    while (g_generalSection.word.exchange(2, std::memory_order_acquire) != 0)
+        syscall(SYS_futex, FutexWord(), FUTEX_WAIT_PRIVATE, 2, nullptr, nullptr, 0);
+}
+
+void Detail::WakeGeneralSectionWaiter() noexcept
+{
+    syscall(SYS_futex, FutexWord(), FUTEX_WAKE_PRIVATE, 1, nullptr, nullptr, 0);
+}
 
 int InitializationState()
 {
@@ -39,12 +73,12 @@ void SetInitializationState(int state)
 
 void EnterGeneralCriticalSection()
 {
-    GeneralCriticalSection().lock();
+    Detail::EnterGeneralSection();
 }
 
 void LeaveGeneralCriticalSection()
 {
-    GeneralCriticalSection().unlock();
+    Detail::LeaveGeneralSection();
 }
 
 void (*AddMemoryPressureFunction)(std::size_t) = nullptr;

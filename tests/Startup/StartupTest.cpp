@@ -45,6 +45,31 @@ TEST(StartupTest, StateIsKeptAndGeneralCriticalSectionIsRecursiveAndExcludesOthe
     EXPECT_TRUE(entered);
 }
 
+// Several threads nesting the section while they update a plain counter: a
+// lost update means two holders at once, a hang means a lost wake-up.
+TEST(StartupTest, GeneralCriticalSectionKeepsCountsExactUnderContention)
+{
+    constexpr int threads = 4;
+    constexpr int rounds = 20000;
+    long counter = 0;
+    std::vector<std::thread> workers;
+    for (int t = 0; t < threads; ++t) {
+        workers.emplace_back([&counter] {
+            for (int i = 0; i < rounds; ++i) {
+                EnterGeneralCriticalSection();
+                EnterGeneralCriticalSection();
+                const long seen = counter;
+                LeaveGeneralCriticalSection();
+                counter = seen + 1;
+                LeaveGeneralCriticalSection();
+            }
+        });
+    }
+    for (std::thread& worker : workers)
+        worker.join();
+    EXPECT_EQ(counter, long(threads) * rounds);
+}
+
 TEST(StartupTest, MallocReportsRequestedSizesIncludingZeroToThePressureHook)
 {
     void (*saved)(std::size_t) = AddMemoryPressureFunction;

@@ -22,8 +22,8 @@ using EventLock = Threading::GeneralCriticalSectionScope;
 
 class EventUnlock {
 public:
-    EventUnlock() { LeaveGeneralCriticalSection(); }
-    ~EventUnlock() { EnterGeneralCriticalSection(); }
+    EventUnlock() noexcept { LeaveGeneralSection(); }
+    ~EventUnlock() { EnterGeneralSection(); }
     EventUnlock(const EventUnlock&) = delete;
     EventUnlock& operator=(const EventUnlock&) = delete;
 };

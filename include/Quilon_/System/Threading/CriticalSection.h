@@ -12,6 +12,7 @@
 
 #include "Quilon_/Config.h"
 #include "Quilon_/Startup.h"
+#include "Quilon_/System/Threading/GeneralCriticalSection.h"
 
 #include <mutex>
 
@@ -50,8 +51,8 @@ inline void LeaveCriticalSection(CriticalSection& section) { section.Leave(); }
 // lifetime of the scope. It is recursive, so scopes may nest on a thread.
 class GeneralCriticalSectionScope {
 public:
-    GeneralCriticalSectionScope() { EnterGeneralCriticalSection(); }
-    ~GeneralCriticalSectionScope() { LeaveGeneralCriticalSection(); }
+    GeneralCriticalSectionScope() noexcept { System::Detail::EnterGeneralSection(); }
+    ~GeneralCriticalSectionScope() { System::Detail::LeaveGeneralSection(); }
     GeneralCriticalSectionScope(const GeneralCriticalSectionScope&) = delete;
     GeneralCriticalSectionScope& operator=(const GeneralCriticalSectionScope&) = delete;
 };
