@@ -50,7 +50,8 @@ constinit Detail::GeneralSection Detail::g_generalSection{};
 void Detail::WaitForGeneralSection() noexcept
 {
     int expected = 0;
-    if (SpinUntilFree() && g_generalSection.word.compare_exchange_strong(expected, 1, std::memory_order_acquire))
+    if (SpinUntilFree() &&
+        g_generalSection.word.compare_exchange_strong(expected, 1, std::memory_order_acquire))
         return;
     while (g_generalSection.word.exchange(2, std::memory_order_acquire) != 0)
         syscall(SYS_futex, FutexWord(), FUTEX_WAIT_PRIVATE, 2, nullptr, nullptr, 0);

@@ -8,12 +8,25 @@ using namespace Quilon_::System;
 
 namespace {
 
-using Factory = Functions::Template::Factory<std::wstring(), std::wstring(std::int64_t), std::wstring(const std::wstring&)>;
+using Factory = Functions::Template::Factory<std::wstring(), std::wstring(std::int64_t),
+                                             std::wstring(const std::wstring&)>;
 
-std::wstring MakeEmpty() { return L"empty"; }
-std::wstring MakeSized(std::int64_t size) { return L"sized " + std::to_wstring(size); }
-std::wstring MakeNamed(const std::wstring& name) { return L"named " + name; }
-std::wstring MakeSizedAgain(std::int64_t) { return L"again"; }
+std::wstring MakeEmpty()
+{
+    return L"empty";
+}
+std::wstring MakeSized(std::int64_t size)
+{
+    return L"sized " + std::to_wstring(size);
+}
+std::wstring MakeNamed(const std::wstring& name)
+{
+    return L"named " + name;
+}
+std::wstring MakeSizedAgain(std::int64_t)
+{
+    return L"again";
+}
 
 } // namespace
 

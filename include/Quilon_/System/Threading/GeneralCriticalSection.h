@@ -52,8 +52,9 @@ inline void EnterGeneralSection() noexcept
         return;
     }
     int expected = 0;
-    if (!section.word.compare_exchange_strong(expected, 1, std::memory_order_acquire, std::memory_order_relaxed))
-        [[unlikely]] WaitForGeneralSection();
+    if (!section.word.compare_exchange_strong(expected, 1, std::memory_order_acquire,
+                                              std::memory_order_relaxed)) [[unlikely]]
+        WaitForGeneralSection();
     section.owner.store(self, std::memory_order_relaxed);
     section.depth = 1;
 }
