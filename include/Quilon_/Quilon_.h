@@ -39,6 +39,7 @@
 #include "Quilon_/System/Localization/TranslationRequestedEventArgs.h"
 #include "Quilon_/System/Localization/Translator.h"
 #include "Quilon_/System/Memory.h"
+#include "Quilon_/System/Nullable.h"
 #include "Quilon_/System/MemoryManager.h"
 #include "Quilon_/System/NumericType.h"
 #include "Quilon_/System/Object.h"
