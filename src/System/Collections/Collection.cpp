@@ -16,6 +16,12 @@ std::wstring Detail::CollectionTypeName(const wchar_t* templateName, const wchar
     return std::wstring(templateName) + L"<" + item.Name() + L">";
 }
 
+namespace {
+// Registers the untyped view by name during static construction, as the
+// macro does for other interfaces.
+[[maybe_unused]] const Type& untypedCollectionType = ICollection::GetType();
+} // namespace
+
 Functions::Template::Function<Pointer<ICollection, 1> (*)()> Collection::New(L"New");
 
 namespace Template::Detail {

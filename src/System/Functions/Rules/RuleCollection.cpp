@@ -13,6 +13,9 @@ QUILON_DEFINE_INTERFACE_TYPE(IRuleCollection, L"Quilon_::System::Functions::Rule
 
 namespace {
 
+// The typed view is registered by name during static construction too.
+[[maybe_unused]] const Type& ruleCollectionViewType = Collections::Template::ICollection<IRule>::GetType();
+
 using Store = Collections::Template::Detail::ICollectionImplBase<IRule>;
 using Events = Collections::Template::ICollectionEventsImpl<Collections::ICollectionEvents>;
 using TypedView = Collections::Template::Detail::ICollectionImpl<IRuleCollection, IRule, Events, Store>;
