@@ -1,9 +1,6 @@
-// The item-count rule over every kind of argument it reads, and the rule
-// collection that applies rules in order.
+// The item-count rule over every kind of argument it reads.
 #include "Quilon_/System/Functions/Function.h"
 #include "Quilon_/System/Functions/Rules/CheckItemCount.h"
-
-#include "../../../Support/RuleDoubles.h"
 
 #include <gtest/gtest.h>
 
@@ -43,39 +40,12 @@ TEST(CheckItemCountTest, LimitsApplyToEveryKindAndNegativeLimitsAreNone)
     Pointer<IRule, 1> notEmpty = CheckItemCount::New(1, 1, -1);
     EXPECT_TRUE(Failures(notEmpty, ToAny(std::vector<double>(1000))).empty());
     EXPECT_TRUE(Failures(CheckItemCount::New(1, -1, -1), ToAny(std::vector<float>{})).empty());
-}
 
-TEST(CheckItemCountTest, OtherValuesAreUnsupported)
-{
-    Pointer<IRule, 1> rule = CheckItemCount::New(1, 0, 5);
+    // Vectors of other elements, numbers and objects that are no collection.
     const RuleFailures unsupported{{1, L"Argument #2 is of an unsupported vector type"}};
-    EXPECT_EQ(Failures(rule, ToAny(std::int64_t(3))), unsupported);
-    EXPECT_EQ(Failures(rule, ToAny(std::vector<int>{1})), unsupported);
-    EXPECT_EQ(Failures(rule, ToAny(Pointer<Interface, 0>())), unsupported);
-    EXPECT_EQ(Failures(rule, ToAny(Pointer<Interface, 1>(CheckItemCount::New(0, 0, 0)))), unsupported);
-}
-
-TEST(RuleCollectionTest, AppliesInOrderAndStopsAtTheFirstFailureUnlessToldToGoOn)
-{
-    auto log = std::make_shared<std::vector<std::string>>();
-    Pointer<IRuleCollection, 1> rules =
-        Tests::Rules({Record(log, "first"), Refuse(0, L"second"), Record(log, "third"), Refuse(1, L"fourth")});
-    std::vector<Any> arguments;
-    RuleFailures failures;
-    EXPECT_FALSE(rules->Apply(arguments, failures, false));
-    EXPECT_EQ(failures, (RuleFailures{{0, L"second"}}));
-    EXPECT_EQ(*log, std::vector<std::string>{"first"});
-
-    failures.clear();
-    EXPECT_FALSE(rules->Apply(arguments, failures, true));
-    EXPECT_EQ(failures, (RuleFailures{{0, L"second"}, {1, L"fourth"}}));
-    EXPECT_TRUE(RuleCollection::NewInstance()->Apply(arguments, failures, false));
-
-    // A clone holds the same rules and is another collection.
-    Pointer<IRuleCollection, 1> clone(rules->Clone());
-    EXPECT_FALSE(clone == rules);
-    ASSERT_EQ(clone->Count(), 4);
-    EXPECT_EQ(clone->Item(3), rules->Item(3));
+    EXPECT_EQ(Failures(notEmpty, ToAny(std::int64_t(3))), unsupported);
+    EXPECT_EQ(Failures(notEmpty, ToAny(std::vector<int>{1})), unsupported);
+    EXPECT_EQ(Failures(notEmpty, ToAny(Pointer<Interface, 1>(notEmpty))), unsupported);
 }
 
 } // namespace Quilon_::Tests::RuleTests
