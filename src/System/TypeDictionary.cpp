@@ -1,6 +1,5 @@
 #include "Quilon_/System/TypeDictionary.h"
 
-#include "Quilon_/System/Raise.h"
 #include "System/TypeDictionaryImpl.h"
 
 namespace Quilon_::System {
@@ -21,83 +20,71 @@ QUILON_DEFINE_INTERFACE_TYPE(ITypeDictionaryInternal, L"Quilon_::System::ITypeDi
 
 namespace Detail {
 
+using Guard = std::lock_guard<std::recursive_mutex>;
+
 std::int64_t CTypeDictionary::Count()
 {
-    std::lock_guard<std::mutex> lock(m_lock);
-    return static_cast<std::int64_t>(m_map.size());
+    Guard lock(m_lock);
+    return Base::Count();
 }
 
-// Failures are raised after the lock is left: raising may build types.
+// An absent name is raised after the lock is left: raising may build types,
+// and their registration may wait on another thread that holds the lock.
 Type CTypeDictionary::Item(const std::wstring& key)
 {
     {
-        std::lock_guard<std::mutex> lock(m_lock);
+        Guard lock(m_lock);
         auto found = m_map.find(key);
         if (found != m_map.end())
             return found->second;
     }
-    QUILON_RAISE(L"The dictionary does not contain key '%1%'", key);
+    Collections::Template::Detail::RaiseDictionaryMessage(KeyNotFoundMessage(key));
 }
 
 void CTypeDictionary::SetItem(const std::wstring& key, const Type& value)
 {
-    std::lock_guard<std::mutex> lock(m_lock);
-    m_map.insert_or_assign(key, value);
+    Guard lock(m_lock);
+    Base::SetItem(key, value);
 }
 
 void CTypeDictionary::Add(const std::wstring& key, const Type& value)
 {
-    bool added;
-    {
-        std::lock_guard<std::mutex> lock(m_lock);
-        added = m_map.emplace(key, value).second;
-    }
-    if (!added)
-        QUILON_RAISE(L"There is already an item of key %1%", key);
+    Guard lock(m_lock);
+    Base::Add(key, value);
 }
 
 bool CTypeDictionary::Remove(const std::wstring& key)
 {
-    std::lock_guard<std::mutex> lock(m_lock);
-    return m_map.erase(key) != 0;
+    Guard lock(m_lock);
+    return Base::Remove(key);
 }
 
 void CTypeDictionary::Clear()
 {
-    std::unordered_map<std::wstring, Type> removed;
-    std::lock_guard<std::mutex> lock(m_lock);
-    m_map.swap(removed);
+    Guard lock(m_lock);
+    Base::Clear();
 }
 
 bool CTypeDictionary::ContainsKey(const std::wstring& key)
 {
-    std::lock_guard<std::mutex> lock(m_lock);
-    return m_map.find(key) != m_map.end();
+    Guard lock(m_lock);
+    return Base::ContainsKey(key);
 }
 
 std::vector<std::wstring> CTypeDictionary::Keys()
 {
-    std::lock_guard<std::mutex> lock(m_lock);
-    std::vector<std::wstring> keys;
-    keys.reserve(m_map.size());
-    for (const auto& entry : m_map)
-        keys.push_back(entry.first);
-    return keys;
+    Guard lock(m_lock);
+    return Base::Keys();
 }
 
-bool CTypeDictionary::IsReadOnly()
-{
-    return false;
-}
-
-std::unordered_map<std::wstring, Type>& CTypeDictionary::Store()
+TypeMap& CTypeDictionary::Store()
 {
     return m_map;
 }
 
 void CTypeDictionary::AddIfAbsent(const std::wstring& key, const Type& value)
 {
-    std::lock_guard<std::mutex> lock(m_lock);
+    Guard lock(m_lock);
     m_map.emplace(key, value);
 }
 

@@ -3,15 +3,26 @@
 // whichever thread that happens, while other threads look names up.
 #pragma once
 
+#include "Quilon_/System/Collections/ValueDictionaryImpl.h"
+#include "Quilon_/System/EventTarget.h"
 #include "Quilon_/System/ObjectImpl.h"
 #include "Quilon_/System/TypeDictionary.h"
 
 #include <mutex>
+#include <unordered_map>
 
 namespace Quilon_::System::Detail {
 
-class CTypeDictionary : public Template::ObjectImpl<CTypeDictionary, ITypeDictionary, ITypeDictionaryInternal> {
+using TypeMap = std::unordered_map<std::wstring, Type>;
+
+class CTypeDictionary
+    : public Template::ObjectImpl<CTypeDictionary, Collections::Template::IValueDictionaryImpl<ITypeDictionary, TypeMap>,
+                                  ITypeDictionaryInternal, EventTarget> {
+    using Base = Collections::Template::IValueDictionaryImpl<ITypeDictionary, TypeMap>;
+
 public:
+    // Every operation holds the lock; it is recursive, since the changes
+    // call the other operations and fire events whose listeners may read.
     std::int64_t Count() override;
     Type Item(const std::wstring& key) override;
     void SetItem(const std::wstring& key, const Type& value) override;
@@ -20,16 +31,16 @@ public:
     void Clear() override;
     bool ContainsKey(const std::wstring& key) override;
     std::vector<std::wstring> Keys() override;
-    bool IsReadOnly() override;
     // The inner store itself, unguarded.
-    std::unordered_map<std::wstring, Type>& Store() override;
+    TypeMap& Store() override;
+    void OnEventTargetReset() override {}
 
-    // Registration: adds the pair under the lock unless the name is there.
+    // Registration: adds the pair under the lock unless the name is there,
+    // without events.
     void AddIfAbsent(const std::wstring& key, const Type& value);
 
 private:
-    std::mutex m_lock;
-    std::unordered_map<std::wstring, Type> m_map;
+    std::recursive_mutex m_lock;
 };
 
 } // namespace Quilon_::System::Detail

@@ -1,5 +1,5 @@
-// A rule collection for tests, whose rules are plain functions, for suites
-// that drive the rule chains of operators without the core's collection.
+// Rules for tests that are plain functions, for suites that drive the rule
+// chains of operators.
 //
 //   auto log = std::make_shared<std::vector<std::string>>();
 //   op.SetRules(rtCheck, Tests::Rules({Tests::Record(log, "check"), Tests::Refuse(0, L"too small")}));
@@ -19,31 +19,23 @@ using System::Any;
 using System::Functions::Rules::RuleFailures;
 using Rule = std::function<bool(std::vector<Any>& arguments, RuleFailures& failures)>;
 
-// Applies its rules in order, stopping at the first failure unless told to
-// go on, as the core's collection does.
-class RuleList : public System::Template::ObjectImpl<RuleList, System::Functions::Rules::IRuleCollection> {
+// A rule that is a plain function.
+class FunctionRule : public System::Template::ObjectImpl<FunctionRule, System::Functions::Rules::IRule> {
 public:
-    explicit RuleList(std::vector<Rule> rules) : m_rules(std::move(rules)) {}
-    bool Apply(std::vector<Any>& arguments, RuleFailures& failures, bool continueAfterFailure) override
-    {
-        bool satisfied = true;
-        for (const Rule& rule : m_rules) {
-            if (!rule(arguments, failures)) {
-                satisfied = false;
-                if (!continueAfterFailure)
-                    break;
-            }
-        }
-        return satisfied;
-    }
+    explicit FunctionRule(Rule rule) : m_rule(std::move(rule)) {}
+    bool Apply(std::vector<Any>& arguments, RuleFailures& failures) override { return m_rule(arguments, failures); }
 
 private:
-    std::vector<Rule> m_rules;
+    Rule m_rule;
 };
 
+// The core's own collection, holding the functions in order.
 inline System::Pointer<System::Functions::Rules::IRuleCollection, 1> Rules(std::vector<Rule> rules)
 {
-    return System::Pointer<System::Functions::Rules::IRuleCollection, 1>(new RuleList(std::move(rules)));
+    auto collection = System::Functions::Rules::RuleCollection::NewInstance();
+    for (Rule& rule : rules)
+        collection->Add(System::Pointer<System::Functions::Rules::IRule, 1>(new FunctionRule(std::move(rule))));
+    return collection;
 }
 
 using Log = std::shared_ptr<std::vector<std::string>>;
