@@ -1,6 +1,7 @@
 #include "Commands.h"
 
 #include "Quilon_/Library.h"
+#include "Quilon_/Math/Matrix.h"
 #include "Quilon_/Startup.h"
 #include "Quilon_/System/Functions/Function.h"
 #include "Quilon_/System/Functions/FunctionRegistry.h"
@@ -73,8 +74,7 @@ void Greet(const Greeting& greet, const std::wstring& name)
 }
 
 // The work the plug-in was loaded for: its operator, with fall-back from the
-// implementation registered last, and the core's memory factory that it
-// filled.
+// implementation registered last.
 void RunPluginWork()
 {
     const Greeting* greet = FindGreeting();
@@ -87,10 +87,42 @@ void RunPluginWork()
         std::printf("  %ls\n", implementation.Name().Value().c_str());
     Greet(*greet, L"world");
     Greet(*greet, L"");
+}
 
+void PrintMatrix(const char* title, Math::IMatrixD& matrix)
+{
+    std::printf("  %s\n", title);
+    for (std::int64_t row = 0; row < matrix.Rows(); ++row) {
+        std::printf("   ");
+        for (std::int64_t column = 0; column < matrix.Columns(); ++column)
+            std::printf(" %8.4f", matrix.Value(row, column));
+        std::printf("\n");
+    }
+}
+
+// What the reference library fills in the core: the memory factory, and the
+// matrix class with the functions that compute on it.
+void RunReferenceLibraryWork()
+{
+    if (!Math::MatrixD::InverseFunction1IsImplemented()) {
+        std::printf("\nthe reference library is not loaded: no matrix functions\n");
+        return;
+    }
     Pointer<IMemory, 1> block = Memory::New(1024, true);
-    std::printf("\nMemory::New(1024, true) from the plug-in: %lld bytes, first byte %d\n",
-                static_cast<long long>(block->Size()), static_cast<const unsigned char*>(block->Data())[0]);
+    std::printf("\nMemory::New(1024, true): %lld bytes, first byte %d\n", static_cast<long long>(block->Size()),
+                static_cast<const unsigned char*>(block->Data())[0]);
+
+    std::printf("\nmatrices of the reference library:\n");
+    Pointer<Math::IMatrixD, 1> matrix = Math::MatrixD::New(2, 2, {4.0, 7.0, 2.0, 6.0});
+    PrintMatrix("m", *matrix);
+    PrintMatrix("Inverse(m)", *Math::MatrixD::Inverse(matrix));
+    Pointer<Math::IMatrixD, 1> symmetric = Math::MatrixD::New(2, 2, {2.0, 1.0, 1.0, 2.0});
+    PrintMatrix("EigenVectors of (2 1; 1 2), one per column", *Math::MatrixD::EigenVectors(symmetric));
+    try {
+        Math::MatrixD::Inverse(Math::MatrixD::New(2, 2, {1.0, 2.0, 2.0, 4.0}));
+    } catch (const Pointer<IException, 1>& failure) {
+        std::printf("  Inverse of (1 2; 2 4) failed: %ls\n", failure->Message().c_str());
+    }
 }
 
 void RunRootDemo()
@@ -130,6 +162,7 @@ int Demo(const Arguments& arguments)
         PrintMessage(stdout, failure->Message());
 
     RunPluginWork();
+    RunReferenceLibraryWork();
     RunRootDemo();
 
     const int status = failures.empty() ? 0 : 1;

@@ -1,0 +1,92 @@
+// Ranges and intervals: plain pairs of bounds, registered on the core's New
+// objects.
+#include "Quilon_/Math/Interval.h"
+#include "Quilon_/Math/Range.h"
+#include "Quilon_/PrivateLibrary.h"
+#include "Quilon_/System/Cloneable.h"
+#include "Quilon_/System/ObjectImpl.h"
+
+namespace Quilon_::Basic {
+
+using namespace Quilon_::Math;
+using System::Pointer;
+
+namespace {
+
+// The two ranges differ only in the type of their bounds.
+template <class IRangeOf, class Bound>
+class CRangeOf : public System::Template::ObjectImpl<CRangeOf<IRangeOf, Bound>, IRangeOf, System::ICloneable> {
+public:
+    CRangeOf(Bound minimum, Bound maximum) : m_minimum(minimum), m_maximum(maximum) {}
+
+    Bound Minimum() override { return m_minimum; }
+    void SetMinimum(Bound value) override { m_minimum = value; }
+    Bound Maximum() override { return m_maximum; }
+    void SetMaximum(Bound value) override { m_maximum = value; }
+
+    Pointer<System::ICloneable, 1> Clone() override
+    {
+        return Pointer<System::ICloneable, 1>(new CRangeOf(m_minimum, m_maximum));
+    }
+
+private:
+    Bound m_minimum;
+    Bound m_maximum;
+};
+
+class CIntervalD : public System::Template::ObjectImpl<CIntervalD, IIntervalD> {
+public:
+    CIntervalD(double minimum, double maximum) : m_minimum(minimum), m_maximum(maximum) {}
+
+    double Minimum() override { return m_minimum; }
+    double Maximum() override { return m_maximum; }
+    bool Contains(double value) override { return m_minimum <= value && value <= m_maximum; }
+
+private:
+    const double m_minimum;
+    const double m_maximum;
+};
+
+template <class IRangeOf, class Bound>
+Pointer<IRangeOf, 1> NewRange(Bound minimum, Bound maximum)
+{
+    return Pointer<IRangeOf, 1>(new CRangeOf<IRangeOf, Bound>(minimum, maximum));
+}
+
+template <class IRangeOf, class Bound>
+Pointer<IRangeOf, 1> NewEmptyRange()
+{
+    return NewRange<IRangeOf, Bound>(0, 0);
+}
+
+Pointer<IIntervalD, 1> NewInterval(double minimum, double maximum)
+{
+    return Pointer<IIntervalD, 1>(new CIntervalD(minimum, maximum));
+}
+
+Pointer<IIntervalD, 1> NewEmptyInterval()
+{
+    return NewInterval(0, 0);
+}
+
+Pointer<IIntervalD, 1> NewSingleValueInterval(std::int64_t value)
+{
+    return NewInterval(static_cast<double>(value), static_cast<double>(value));
+}
+
+void RegisterRanges()
+{
+    Range::New.Register(L"Range", &NewEmptyRange<IRange, std::int64_t>);
+    Range::New.Register(L"Range", &NewRange<IRange, std::int64_t>);
+    RangeD::New.Register(L"Range", &NewEmptyRange<IRangeD, double>);
+    RangeD::New.Register(L"Range", &NewRange<IRangeD, double>);
+    IntervalD::New.Register(L"Interval", &NewEmptyInterval);
+    IntervalD::New.Register(L"Interval", &NewSingleValueInterval);
+    IntervalD::New.Register(L"Interval", &NewInterval);
+}
+
+const System::Template::Initializer<::Library> ranges(&RegisterRanges, nullptr, 0.2f);
+
+} // namespace
+
+} // namespace Quilon_::Basic
