@@ -6,7 +6,7 @@
 //   auto reader = Tests::NewMemoryReader(writer.Written(), false, false);
 #pragma once
 
-#include "Quilon_/Serialization/Binary/Functions.h"
+#include "Quilon_/System/Serialization/Binary/Functions.h"
 #include "Quilon_/System/ObjectImpl.h"
 #include "Quilon_/System/Raise.h"
 
@@ -15,7 +15,7 @@
 
 namespace Quilon_::Tests {
 
-namespace Binary = Serialization::Binary;
+namespace Binary = System::Serialization::Binary;
 using Bytes = std::vector<unsigned char>;
 
 class CMemoryWriter : public System::Template::ObjectImpl<CMemoryWriter, Binary::IWriter> {
@@ -93,7 +93,7 @@ struct MemoryWriter {
 
 inline Binary::ReaderRef NewMemoryReader(Bytes bytes, bool saveIntAsInt64 = true,
                                          bool saveStringAsAnsi = false,
-                                         unsigned short version = Binary::CurrentVersion)
+                                         unsigned short version = System::Serialization::CurrentVersion)
 {
     return Binary::ReaderRef(new CMemoryReader(std::move(bytes), saveIntAsInt64, saveStringAsAnsi, version));
 }

@@ -4,12 +4,6 @@
 
 namespace Quilon_::System::Serialization {
 
-namespace {
-// The version of the archives this library writes; the oldest it reads.
-constexpr unsigned short CurrentVersion = 4401;
-constexpr unsigned short OldestVersion = 4000;
-} // namespace
-
 void Detail::CheckMinimumVersion(unsigned short minimumVersion)
 {
     if (minimumVersion < OldestVersion || minimumVersion > CurrentVersion)

@@ -28,7 +28,7 @@ TEST_F(SerializationFactoryTest, MinimumVersionsFrom4000To4401AreAccepted)
               L"Invalid minimum version value: 3999 (current version is 4401)");
     EXPECT_EQ(RaisedMessage([] { Factory(&MakeThing, 4402); }),
               L"Invalid minimum version value: 4402 (current version is 4401)");
-    EXPECT_EQ(Binary::Functions(nullptr, nullptr, 4401).minimumVersion, 4401);
+    EXPECT_EQ(Binary::Functions(nullptr, nullptr, 4401).version, 4401);
     EXPECT_EQ(RaisedMessage([] { Binary::Functions(nullptr, nullptr, 4402); }),
               L"Invalid minimum version value: 4402 (current version is 4401)");
 }

@@ -14,6 +14,10 @@
 
 namespace Quilon_::System::Serialization {
 
+// The version of the archives this library writes, and the oldest it reads.
+inline constexpr unsigned short CurrentVersion = 4401;
+inline constexpr unsigned short OldestVersion = 4000;
+
 namespace Detail {
 // Refuses a version outside [4000, 4401], the versions this library reads.
 QUILON_API void CheckMinimumVersion(unsigned short minimumVersion);

@@ -1,13 +1,148 @@
 #include "Quilon_/System/Serialization/Binary/Functions.h"
 
-#include "Quilon_/System/Serialization/Factory.h"
+#include "Quilon_/System/Helper.h"
+#include "Quilon_/System/Raise.h"
+#include "Quilon_/System/Threading/CriticalSection.h"
+
+#include <cstdint>
+#include <vector>
 
 namespace Quilon_::System::Serialization::Binary {
 
-Functions::Functions(Write write, Read read, unsigned short minimumVersion)
-    : write(write), read(read), minimumVersion(minimumVersion)
+Functions::Functions(Writer writer, Reader reader, unsigned short version)
+    : writer(writer), reader(reader), version(version)
 {
-    Serialization::Detail::CheckMinimumVersion(minimumVersion);
+    Serialization::Detail::CheckMinimumVersion(version);
+}
+
+namespace {
+
+using std::int64_t;
+using std::uint64_t;
+using std::vector;
+
+void WriteNothing(WriterRef, System::Any&) {}
+void ReadNothing(ReaderRef, System::Any& value)
+{
+    value = System::Any();
+}
+
+// The rows of the core's own types. A vector of T and T itself share their
+// stream operators, so each row is one line.
+std::unordered_map<std::wstring, Functions>& Table()
+{
+    // Never destroyed: archives may be read until the process ends.
+    static auto* const table = new std::unordered_map<std::wstring, Functions>;
+    return *table;
+}
+
+void Enter(const std::type_info& type, Functions::Writer writer, Functions::Reader reader,
+           unsigned short version)
+{
+    Functions row(writer, reader, version);
+    System::Threading::GeneralCriticalSectionScope lock;
+    Table().try_emplace(System::Helper::TypeName(type), row);
+}
+
+template <class T>
+void Row()
+{
+    Enter(typeid(T), &Detail::WriteRow<T>, &Detail::ReadRow<T>, OldestVersion);
+}
+
+void RegisterCoreRows()
+{
+    Enter(typeid(void), &WriteNothing, &ReadNothing, OldestVersion);
+    Row<bool>();
+    Row<char>();
+    Row<unsigned char>();
+    Row<short>();
+    Row<unsigned short>();
+    Row<int>();
+    Row<unsigned int>();
+    Row<int64_t>();
+    Row<uint64_t>();
+    Row<float>();
+    Row<double>();
+    Row<std::complex<float>>();
+    Row<std::complex<double>>();
+    Row<boost::rational<int>>();
+    Row<boost::rational<unsigned int>>();
+    Row<vector<bool>>();
+    Row<vector<char>>();
+    Row<vector<unsigned char>>();
+    Row<vector<short>>();
+    Row<vector<unsigned short>>();
+    Row<vector<int>>();
+    Row<vector<unsigned int>>();
+    Row<vector<int64_t>>();
+    Row<vector<uint64_t>>();
+    Row<vector<float>>();
+    Row<vector<double>>();
+    Row<vector<std::complex<float>>>();
+    Row<vector<std::complex<double>>>();
+    Row<vector<System::Any>>();
+    Row<vector<vector<int64_t>>>();
+    Row<vector<vector<float>>>();
+    Row<vector<vector<double>>>();
+    Row<std::pair<vector<int64_t>, int64_t>>();
+    Row<vector<std::pair<vector<int64_t>, int64_t>>>();
+    Row<std::pair<int64_t, int64_t>>();
+    Row<vector<std::pair<System::Any, System::LIString>>>();
+    // Texts and types stand in archives as often as numbers do.
+    Row<std::string>();
+    Row<std::wstring>();
+    Row<vector<std::wstring>>();
+    Row<System::LIString>();
+    Row<System::Type>();
+}
+
+} // namespace
+
+std::unordered_map<std::wstring, Functions>& GetFunctions()
+{
+    // The core's rows come first, so that they win over any later row of
+    // the same name.
+    static const bool filled = (RegisterCoreRows(), true);
+    (void)filled;
+    return Table();
+}
+
+void Register(const std::type_info& type, Functions::Writer writer, Functions::Reader reader,
+              unsigned short version)
+{
+    GetFunctions();
+    Enter(type, writer, reader, version);
+}
+
+namespace {
+const Functions& RowOf(const std::wstring& name)
+{
+    auto& table = GetFunctions();
+    auto found = table.find(name);
+    if (found == table.end())
+        QUILON_RAISE(L"No binary serialization functions for type '%1%'", name);
+    return found->second;
+}
+} // namespace
+
+void WriteFramed(WriterRef writer, System::Any& value)
+{
+    const std::wstring name = System::Helper::TypeName(value.TypeInfo());
+    const Functions& row = RowOf(name);
+    writer = writer << name;
+    row.writer(writer, value);
+}
+
+void ReadFramed(ReaderRef reader, System::Any& value)
+{
+    std::wstring name;
+    reader = reader >> name;
+    const Functions& row = RowOf(name);
+    if (reader->Version() < row.version)
+        QUILON_RAISE(L"Type '%1%' cannot be read from an archive of version %2% (oldest: %3%)", name,
+                     reader->Version(), row.version);
+    row.reader(reader, value);
 }
 
 } // namespace Quilon_::System::Serialization::Binary

@@ -1,26 +1,65 @@
-// The record of how one class is written to and read from a binary stream,
-// with the oldest file version from which it can be read:
+// The table of dynamic values: for each type that an Any may hold in an
+// archive, by its presentable name, the pair of functions that write and
+// read the value, and the oldest archive version that has it.
 //
-//   Serialization::Binary::Functions polygon{&WritePolygon, &ReadPolygon, 4000};
+//   Binary::Register<Geometry::Handle>();    // a domain's type, in its initialiser
+//
+// The concrete streams frame an Any as the type's name followed by what the
+// row's writer writes; WriteFramed and ReadFramed do exactly that.
 #pragma once
 
-#include "Quilon_/System/Pointer.h"
+#include "Quilon_/System/Serialization/Binary/Serializable.h"
+
+#include <string>
+#include <typeinfo>
+#include <unordered_map>
 
 namespace Quilon_::System::Serialization::Binary {
 
-class IWriter;
-class IReader;
+class QUILON_API Functions {
+public:
+    using Writer = void (*)(WriterRef writer, System::Any& value);
+    using Reader = void (*)(ReaderRef reader, System::Any& value);
 
-struct QUILON_API Functions {
-    using Write = void (*)(Pointer<IWriter, 1>, Pointer<Interface, 1>);
-    using Read = void (*)(Pointer<IReader, 1>, Pointer<Interface, 1>);
+    // Raises unless OldestVersion <= version <= CurrentVersion.
+    Functions(Writer writer, Reader reader, unsigned short version);
 
-    // Refuses a version outside [4000, 4401].
-    Functions(Write write, Read read, unsigned short minimumVersion);
-
-    Write write;
-    Read read;
-    unsigned short minimumVersion;
+    Writer writer;
+    Reader reader;
+    unsigned short version;
 };
+
+// Made on first use, with the rows of the core's own types.
+QUILON_API std::unordered_map<std::wstring, Functions>& GetFunctions();
+
+// Enters the row under Helper::TypeName(type); the first row of a name stays.
+QUILON_API void Register(const std::type_info& type, Functions::Writer writer, Functions::Reader reader,
+                         unsigned short version);
+
+namespace Detail {
+template <class T>
+void WriteRow(WriterRef writer, System::Any& value)
+{
+    writer << value.CastTo<T>();
+}
+template <class T>
+void ReadRow(ReaderRef reader, System::Any& value)
+{
+    T read{};
+    reader >> read;
+    value = System::ToAny(read);
+}
+} // namespace Detail
+
+// The row of T through its stream operators.
+template <class T>
+void Register(unsigned short version = OldestVersion)
+{
+    Register(typeid(T), &Detail::WriteRow<T>, &Detail::ReadRow<T>, version);
+}
+
+// The type's name, then the row's record; raises for a type without a row.
+QUILON_API void WriteFramed(WriterRef writer, System::Any& value);
+QUILON_API void ReadFramed(ReaderRef reader, System::Any& value);
 
 } // namespace Quilon_::System::Serialization::Binary

@@ -10,8 +10,8 @@
 // Each operator takes the stream by value and returns it, so calls chain.
 #pragma once
 
-#include "Quilon_/Serialization/Binary/Reader.h"
-#include "Quilon_/Serialization/Binary/Writer.h"
+#include "Quilon_/System/Serialization/Binary/Reader.h"
+#include "Quilon_/System/Serialization/Binary/Writer.h"
 #include "Quilon_/System/String.h"
 #include "Quilon_/System/Type.h"
 
@@ -24,7 +24,7 @@
 #include <utility>
 #include <vector>
 
-namespace Quilon_::Serialization::Binary {
+namespace Quilon_::System::Serialization::Binary {
 
 class QUILON_API ISerializable : public virtual System::Interface {
     QUILON_INTERFACE(ISerializable)
@@ -218,4 +218,4 @@ ReaderRef operator>>(ReaderRef reader, std::pair<A, B>& value)
     return reader >> value.first >> value.second;
 }
 
-} // namespace Quilon_::Serialization::Binary
+} // namespace Quilon_::System::Serialization::Binary

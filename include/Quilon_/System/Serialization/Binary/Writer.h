@@ -18,7 +18,7 @@
 #include <cstdint>
 #include <string>
 
-namespace Quilon_::Serialization::Binary {
+namespace Quilon_::System::Serialization::Binary {
 
 class QUILON_API IWriter : public virtual System::Interface {
     QUILON_INTERFACE(IWriter)
@@ -51,4 +51,4 @@ QUILON_DECLARE_SETTING(SaveStringAsAnsi, SetSaveStringAsAnsi, ClearSaveStringAsA
 
 } // namespace Writer
 
-} // namespace Quilon_::Serialization::Binary
+} // namespace Quilon_::System::Serialization::Binary

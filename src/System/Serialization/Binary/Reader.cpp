@@ -1,10 +1,10 @@
-#include "Quilon_/Serialization/Binary/Reader.h"
+#include "Quilon_/System/Serialization/Binary/Reader.h"
 
 #include "Quilon_/System/Type.h"
 
-namespace Quilon_::Serialization::Binary {
+namespace Quilon_::System::Serialization::Binary {
 
-QUILON_DEFINE_INTERFACE_TYPE(IReader, L"Quilon_::Serialization::Binary::IReader", System::Interface)
+QUILON_DEFINE_INTERFACE_TYPE(IReader, L"Quilon_::System::Serialization::Binary::IReader", System::Interface)
 
 Reader::Factory Reader::New;
 
@@ -19,4 +19,4 @@ bool IsArchive(const std::wstring& path)
 
 } // namespace Reader
 
-} // namespace Quilon_::Serialization::Binary
+} // namespace Quilon_::System::Serialization::Binary

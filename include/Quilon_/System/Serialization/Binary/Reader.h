@@ -12,15 +12,12 @@
 #include "Quilon_/System/Functions/Factory.h"
 #include "Quilon_/System/Functions/FunctionSlot.h"
 #include "Quilon_/System/Memory.h"
+#include "Quilon_/System/Serialization/Factory.h"
 
 #include <cstdint>
 #include <string>
 
-namespace Quilon_::Serialization::Binary {
-
-// The archive version that this library writes, and the oldest it reads.
-inline constexpr unsigned short CurrentVersion = 4401;
-inline constexpr unsigned short OldestVersion = 4000;
+namespace Quilon_::System::Serialization::Binary {
 
 class QUILON_API IReader : public virtual System::Interface {
     QUILON_INTERFACE(IReader)
@@ -57,4 +54,4 @@ QUILON_DECLARE_FUNCTION_SLOT(IsArchive, 1, bool (*)(const std::wstring& path));
 
 } // namespace Reader
 
-} // namespace Quilon_::Serialization::Binary
+} // namespace Quilon_::System::Serialization::Binary

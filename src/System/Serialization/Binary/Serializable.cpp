@@ -1,4 +1,4 @@
-#include "Quilon_/Serialization/Binary/Serializable.h"
+#include "Quilon_/System/Serialization/Binary/Serializable.h"
 
 #include "Quilon_/System/Raise.h"
 #include "Quilon_/System/TypeDictionary.h"
@@ -6,9 +6,9 @@
 #include <cstdint>
 #include <limits>
 
-namespace Quilon_::Serialization::Binary {
+namespace Quilon_::System::Serialization::Binary {
 
-QUILON_DEFINE_INTERFACE_TYPE(ISerializable, L"Quilon_::Serialization::Binary::ISerializable",
+QUILON_DEFINE_INTERFACE_TYPE(ISerializable, L"Quilon_::System::Serialization::Binary::ISerializable",
                              System::Interface)
 
 namespace {
@@ -355,4 +355,4 @@ ReaderRef operator>>(ReaderRef reader, System::Any& value)
     return reader;
 }
 
-} // namespace Quilon_::Serialization::Binary
+} // namespace Quilon_::System::Serialization::Binary

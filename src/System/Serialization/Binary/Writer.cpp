@@ -1,10 +1,10 @@
-#include "Quilon_/Serialization/Binary/Writer.h"
+#include "Quilon_/System/Serialization/Binary/Writer.h"
 
 #include "Quilon_/System/Type.h"
 
-namespace Quilon_::Serialization::Binary {
+namespace Quilon_::System::Serialization::Binary {
 
-QUILON_DEFINE_INTERFACE_TYPE(IWriter, L"Quilon_::Serialization::Binary::IWriter", System::Interface)
+QUILON_DEFINE_INTERFACE_TYPE(IWriter, L"Quilon_::System::Serialization::Binary::IWriter", System::Interface)
 
 Writer::Factory Writer::New;
 
@@ -13,4 +13,4 @@ QUILON_DEFINE_SETTING(SaveIntAsInt64, SetSaveIntAsInt64, ClearSaveIntAsInt64, tr
 QUILON_DEFINE_SETTING(SaveStringAsAnsi, SetSaveStringAsAnsi, ClearSaveStringAsAnsi, false)
 } // namespace Writer
 
-} // namespace Quilon_::Serialization::Binary
+} // namespace Quilon_::System::Serialization::Binary
