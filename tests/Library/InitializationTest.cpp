@@ -70,13 +70,6 @@ bool IsLoaded(const std::wstring& library)
     return handle != nullptr;
 }
 
-std::vector<float> progressCalls;
-
-void RecordProgress(float rank)
-{
-    progressCalls.push_back(rank);
-}
-
 TEST(LibraryStartup, LoadsTheFilesLibrariesInOrderReportsFailuresAndFinalizesInReverseRank)
 {
     InChildProcess([] {
@@ -113,9 +106,10 @@ TEST(LibraryStartup, LoadsTheFilesLibrariesInOrderReportsFailuresAndFinalizesInR
         // Only what registered after the failure is finalised: the failing
         // library's finaliser and the core's entry went with it.
         trace.traced.clear();
-        Library::Finalize(&RecordProgress);
+        StartupPlugins::progressCalls.clear();
+        Library::Finalize(&StartupPlugins::RecordProgress);
         EXPECT_EQ(Steps(trace), RecorderSteps(L"finalize", 4));
-        EXPECT_EQ(progressCalls, (std::vector<float>{0.95f, 0.7f, 0.0f})) << "once per rank";
+        EXPECT_EQ(StartupPlugins::progressCalls, (std::vector<float>{0.95f, 0.7f, 0.0f})) << "once per rank";
         EXPECT_EQ(InitializationState(), -1);
         int destructions = 0;
         Pointer<Kernel::IThing, 0>(new Kernel::CThing(&destructions));
@@ -131,18 +125,6 @@ TEST(LibraryStartup, LoadsTheFilesLibrariesInOrderReportsFailuresAndFinalizesInR
         EXPECT_THAT(errors[0]->Message(), StartsWith(L"Failed to load library '" + missing + L"'"));
         Pointer<Kernel::IThing, 0>(new Kernel::CThing(&destructions));
         EXPECT_EQ(destructions, 1);
-    });
-}
-
-TEST(LibraryStartup, AListSetByTheApplicationTakesThePlaceOfTheFiles)
-{
-    InChildProcess([] {
-        Library::SetInitializationFileName(fixtures + L"/Startup.xml");
-        Library::SetLibraries({thrower});
-        Library::Initialize();
-        EXPECT_EQ(Library::Libraries(), Strings{thrower});
-        EXPECT_TRUE(IsLoaded(thrower));
-        EXPECT_FALSE(IsLoaded(recorder));
     });
 }
 
@@ -169,15 +151,19 @@ TEST(LibraryStartup, AMissingOrMalformedFileStartsWithoutLibrariesAndIsReadOnce)
     }
 }
 
+// The list set by the application takes the place of the file's.
 TEST(LibraryStartup, InitializeWithoutAListThrowsTheFirstFailureAfterTryingEveryLibrary)
 {
     InChildProcess([] {
         const std::wstring missingToo = L"libQuilon_.TestMissingToo.so";
+        Library::SetInitializationFileName(fixtures + L"/Startup.xml");
         Library::SetLibraries({missing, thrower, missingToo});
         Pointer<IException, 0> thrown = Raised([] { Library::Initialize(); });
         ASSERT_TRUE(thrown);
         EXPECT_THAT(thrown->Message(), StartsWith(L"Failed to load library '" + missing + L"'"));
         EXPECT_TRUE(IsLoaded(thrower));
+        EXPECT_FALSE(IsLoaded(recorder));
+        EXPECT_EQ(Library::Libraries(), (Strings{missing, thrower, missingToo}));
         EXPECT_EQ(InitializationState(), 4);
         Pointer<IException, 0> last = Library::ErrorManager()->TakeLastError();
         ASSERT_TRUE(last);
