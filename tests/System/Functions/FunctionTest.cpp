@@ -17,23 +17,18 @@
 #include <string>
 #include <vector>
 
-namespace {
+namespace Quilon_::Tests::FunctionTests {
 
-using namespace Quilon_;
 using namespace Quilon_::System;
 using namespace Quilon_::System::Functions;
 using Functions::Template::Function;
+using Kernel::CThing;
+using Kernel::IThing;
 using ::testing::ElementsAre;
 using ::testing::StartsWith;
-using Tests::RaisedMessage;
-using Tests::Record;
-using Tests::Refuse;
-using Tests::Rule;
-using Tests::RuleFailures;
-using Tests::Rules;
 
 // What implementations and rules did, in order.
-Tests::Log events = std::make_shared<std::vector<std::string>>();
+Log events = std::make_shared<std::vector<std::string>>();
 
 int First(int x)
 {
@@ -59,7 +54,7 @@ int SecondRaises(int)
     QUILON_RAISE(L"Second gave up");
 }
 
-class FunctionDispatch : public Tests::RaisingTest {
+class FunctionDispatch : public RaisingTest {
 protected:
     void SetUp() override { events->clear(); }
 
@@ -91,12 +86,12 @@ TEST_F(FunctionDispatch, LastRegisteredRunsAloneAndARaisingOneFallsBack)
 
 // By-value arguments may be moved into the last implementation only: one
 // tried after a failure must still get the caller's object.
-std::int64_t HeldBy(Pointer<Tests::Kernel::IThing> thing)
+std::int64_t HeldBy(Pointer<IThing> thing)
 {
     return thing.Get() ? 1 : 0;
 }
 
-std::int64_t RaisesWith(Pointer<Tests::Kernel::IThing> thing)
+std::int64_t RaisesWith(Pointer<IThing> thing)
 {
     if (thing)
         QUILON_RAISE(L"Refused");
@@ -107,8 +102,8 @@ TEST_F(FunctionDispatch, ByValueArgumentsReachEveryImplementationTried)
 {
     int destructions = 0;
     {
-        Pointer<Tests::Kernel::IThing> thing(new Tests::Kernel::CThing(&destructions));
-        Function<std::int64_t (*)(Pointer<Tests::Kernel::IThing>)> op(L"Hold");
+        Pointer<IThing> thing(new CThing(&destructions));
+        Function<std::int64_t (*)(Pointer<IThing>)> op(L"Hold");
         op.Register(L"Holds", &HeldBy);
         op.Register(L"Raises", &RaisesWith);
         EXPECT_EQ(op(thing), 1);
@@ -141,7 +136,7 @@ TEST_F(FunctionDispatch, RefusalsGiveTheFirstComplaintOfTheLastTriedUnlessAnExce
     // An exception kept from an earlier implementation wins over refusals.
     auto raising = TwoOf(&First, &SecondRaises);
     raising.Implementations()[1].SetRules(rtCheck, Rules({Refuse(0, L"Argument #1 must be a double")}));
-    Pointer<IException, 0> thrown = Tests::Raised([&] { raising(3); });
+    Pointer<IException, 0> thrown = Raised([&] { raising(3); });
     EXPECT_EQ(thrown->Message(), L"Second gave up");
     EXPECT_TRUE(Library::ErrorManager()->TakeLastError() == thrown);
 }
@@ -228,9 +223,6 @@ TEST_F(FunctionRulesTest, IgnoringFunctionRulesRunsOnlyOwnRules)
     EXPECT_THAT(*events, ElementsAre("function check"));
 }
 
-using Tests::Kernel::CThing;
-using Tests::Kernel::IThing;
-
 void Fill(Pointer<IThing> source, const std::wstring& label, std::int64_t& count, Pointer<IThing, 0>& copy)
 {
     events->push_back(ToAnsi(label));
@@ -278,4 +270,4 @@ TEST_F(FunctionRulesTest, RulesSeeBoxedArgumentsAndOnlyOutputsReachTheCallerAgai
     EXPECT_THAT(*events, ElementsAre("check caller's", "check caller's"));
 }
 
-} // namespace
+} // namespace Quilon_::Tests::FunctionTests
