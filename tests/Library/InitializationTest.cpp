@@ -14,6 +14,7 @@
 
 #include <dlfcn.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -49,19 +50,24 @@ Strings Steps(const Kernel::CRecordingTrace& trace)
     return steps;
 }
 
+// The recorder's steps at a start, its global entries and the one that runs
+// its own queue (0.7) in the order of rank; a shut-down runs them backwards.
+Strings RecorderSteps(const std::wstring& step, int state)
+{
+    Strings steps;
+    for (const wchar_t* entry : {L"global 0.3", L"global 0.3", L"private 0.2", L"private 0.5", L"global 0.95"})
+        steps.push_back(L"Recorder: " + step + L" " + entry + L" in state " + std::to_wstring(state));
+    if (step == L"finalize")
+        std::reverse(steps.begin(), steps.end());
+    return steps;
+}
+
 bool IsLoaded(const std::wstring& library)
 {
     void* handle = dlopen((QUILON_TEST_LIB_DIR "/" + ToAnsi(library)).c_str(), RTLD_NOW | RTLD_NOLOAD);
     if (handle)
         dlclose(handle);
     return handle != nullptr;
-}
-
-std::vector<float> progressCalls;
-
-void RecordProgress(float rank)
-{
-    progressCalls.push_back(rank);
 }
 
 TEST(LibraryStartup, LoadsTheFilesLibrariesInOrderReportsFailuresAndFinalizesInReverseRank)
@@ -80,44 +86,30 @@ TEST(LibraryStartup, LoadsTheFilesLibrariesInOrderReportsFailuresAndFinalizesInR
         EXPECT_EQ(errors[1]->Message(),
                   L"Failed to initialize library '" + failing + L"'\nThe failing plug-in cannot start");
         EXPECT_TRUE(IsLoaded(recorder) && IsLoaded(thrower)) << "libraries after a failure still load";
-        // The failing library's initialiser of rank 0.9 never runs. The
-        // recorder's global entries and the one that runs its own queue (0.7)
-        // come in the order of rank.
-        EXPECT_EQ(Steps(trace), (Strings{
-                                    L"Failing: initialize 0.1 in state 3",
-                                    L"Recorder: initialize global 0.3 in state 3",
-                                    L"Recorder: initialize global 0.3 in state 3",
-                                    L"Recorder: initialize private 0.2 in state 3",
-                                    L"Recorder: initialize private 0.5 in state 3",
-                                    L"Recorder: initialize global 0.95 in state 3",
-                                }));
+        // The failing library's initialiser of rank 0.9 never runs.
+        Strings started = RecorderSteps(L"initialize", 3);
+        started.insert(started.begin(), L"Failing: initialize 0.1 in state 3");
+        EXPECT_EQ(Steps(trace), started);
 
         // Operators filled by the recorder: one of its own, one of the core.
         EXPECT_EQ(Library::Translator()->Translate(StartupPlugins::GreetingKey), StartupPlugins::GreetingText);
-        const Functions::Detail::Function* decorate = nullptr;
-        for (const auto& entry : Functions::FunctionRegistry::Entries()) {
-            if (entry.name == StartupPlugins::DecorateName)
-                decorate = entry.function;
-        }
+        const auto entries = Functions::FunctionRegistry::Entries();
+        const auto entry = std::find_if(entries.begin(), entries.end(),
+                                        [](const auto& e) { return e.name == StartupPlugins::DecorateName; });
+        ASSERT_NE(entry, entries.end());
+        using Decorate = Functions::Template::Function<std::wstring (*)(const std::wstring&)>;
+        auto* decorate = dynamic_cast<const Decorate*>(entry->function);
         ASSERT_NE(decorate, nullptr);
         EXPECT_EQ(decorate->ImplementationCount(), 2u);
-        using Decorate = Functions::Template::Function<std::wstring (*)(const std::wstring&)>;
-        auto* typed = dynamic_cast<const Decorate*>(decorate);
-        ASSERT_NE(typed, nullptr);
-        EXPECT_EQ((*typed)(L"x"), L"'x'") << "the implementation registered last comes first";
+        EXPECT_EQ((*decorate)(L"x"), L"'x'") << "the implementation registered last comes first";
 
         // Only what registered after the failure is finalised: the failing
         // library's finaliser and the core's entry went with it.
         trace.traced.clear();
-        Library::Finalize(&RecordProgress);
-        EXPECT_EQ(Steps(trace), (Strings{
-                                    L"Recorder: finalize global 0.95 in state 4",
-                                    L"Recorder: finalize private 0.5 in state 4",
-                                    L"Recorder: finalize private 0.2 in state 4",
-                                    L"Recorder: finalize global 0.3 in state 4",
-                                    L"Recorder: finalize global 0.3 in state 4",
-                                }));
-        EXPECT_EQ(progressCalls, (std::vector<float>{0.95f, 0.7f, 0.0f})) << "once per rank";
+        StartupPlugins::progressCalls.clear();
+        Library::Finalize(&StartupPlugins::RecordProgress);
+        EXPECT_EQ(Steps(trace), RecorderSteps(L"finalize", 4));
+        EXPECT_EQ(StartupPlugins::progressCalls, (std::vector<float>{0.95f, 0.7f, 0.0f})) << "once per rank";
         EXPECT_EQ(InitializationState(), -1);
         int destructions = 0;
         Pointer<Kernel::IThing, 0>(new Kernel::CThing(&destructions));
@@ -128,29 +120,11 @@ TEST(LibraryStartup, LoadsTheFilesLibrariesInOrderReportsFailuresAndFinalizesInR
         trace.traced.clear();
         errors.clear();
         Library::Initialize(errors);
-        EXPECT_EQ(Steps(trace), (Strings{
-                                    L"Recorder: initialize global 0.3 in state 1",
-                                    L"Recorder: initialize global 0.3 in state 1",
-                                    L"Recorder: initialize private 0.2 in state 1",
-                                    L"Recorder: initialize private 0.5 in state 1",
-                                    L"Recorder: initialize global 0.95 in state 1",
-                                }));
+        EXPECT_EQ(Steps(trace), RecorderSteps(L"initialize", 1));
         ASSERT_EQ(errors.size(), 1u);
         EXPECT_THAT(errors[0]->Message(), StartsWith(L"Failed to load library '" + missing + L"'"));
         Pointer<Kernel::IThing, 0>(new Kernel::CThing(&destructions));
         EXPECT_EQ(destructions, 1);
-    });
-}
-
-TEST(LibraryStartup, AListSetByTheApplicationTakesThePlaceOfTheFiles)
-{
-    InChildProcess([] {
-        Library::SetInitializationFileName(fixtures + L"/Startup.xml");
-        Library::SetLibraries({thrower});
-        Library::Initialize();
-        EXPECT_EQ(Library::Libraries(), Strings{thrower});
-        EXPECT_TRUE(IsLoaded(thrower));
-        EXPECT_FALSE(IsLoaded(recorder));
     });
 }
 
@@ -177,15 +151,19 @@ TEST(LibraryStartup, AMissingOrMalformedFileStartsWithoutLibrariesAndIsReadOnce)
     }
 }
 
+// The list set by the application takes the place of the file's.
 TEST(LibraryStartup, InitializeWithoutAListThrowsTheFirstFailureAfterTryingEveryLibrary)
 {
     InChildProcess([] {
         const std::wstring missingToo = L"libQuilon_.TestMissingToo.so";
+        Library::SetInitializationFileName(fixtures + L"/Startup.xml");
         Library::SetLibraries({missing, thrower, missingToo});
         Pointer<IException, 0> thrown = Raised([] { Library::Initialize(); });
         ASSERT_TRUE(thrown);
         EXPECT_THAT(thrown->Message(), StartsWith(L"Failed to load library '" + missing + L"'"));
         EXPECT_TRUE(IsLoaded(thrower));
+        EXPECT_FALSE(IsLoaded(recorder));
+        EXPECT_EQ(Library::Libraries(), (Strings{missing, thrower, missingToo}));
         EXPECT_EQ(InitializationState(), 4);
         Pointer<IException, 0> last = Library::ErrorManager()->TakeLastError();
         ASSERT_TRUE(last);

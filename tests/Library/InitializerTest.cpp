@@ -7,6 +7,7 @@
 
 #include "../Support/InChildProcess.h"
 #include "../Support/Raised.h"
+#include "../Support/StartupPlugins.h"
 
 #include <gtest/gtest.h>
 
@@ -18,9 +19,8 @@ namespace Quilon_::Tests::InitializerTests {
 
 using namespace Quilon_::System;
 
-// Queues of the tests' own, one pair per test, empty at its start.
-template <int Test>
-struct Queues {
+// Queues of the tests' own, emptied by each test at its start.
+struct TestQueues {
     static void Clear()
     {
         Initializers() = {};
@@ -57,51 +57,42 @@ void Finalize()
 void InitializeAndAddOne()
 {
     Initialize<2>();
-    Template::Initializer<Queues<1>>(&Initialize<1>, &Finalize<1>, 0.01f);
-}
-
-std::vector<float> progressCalls;
-
-void RecordProgress(float rank)
-{
-    progressCalls.push_back(rank);
+    Template::Initializer<TestQueues>(&Initialize<1>, &Finalize<1>, 0.01f);
 }
 
 TEST(Initializer, RanksUpToOneAreAcceptedAndNegativeOnesToo)
 {
-    using Q = Queues<0>;
-    Q::Clear();
-    Template::Initializer<Q>(nullptr, nullptr, 1.0f);
-    Template::Initializer<Q>(nullptr, nullptr, -1.0f);
-    EXPECT_EQ(RaisedMessage([] { Template::Initializer<Q>(nullptr, nullptr, 1.5f); }),
+    TestQueues::Clear();
+    Template::Initializer<TestQueues>(nullptr, nullptr, 1.0f);
+    Template::Initializer<TestQueues>(nullptr, nullptr, -1.0f);
+    EXPECT_EQ(RaisedMessage([] { Template::Initializer<TestQueues>(nullptr, nullptr, 1.5f); }),
               L"Initializer rank is out of range: '1.5' (expected a value between 0 and 1)");
-    EXPECT_EQ(Q::Initializers().size(), 2u);
-    EXPECT_EQ(Q::Initializers().top().rank, -1.0f);
+    EXPECT_EQ(TestQueues::Initializers().size(), 2u);
+    EXPECT_EQ(TestQueues::Initializers().top().rank, -1.0f);
     EXPECT_FLOAT_EQ(Initializer::RankAfter({0.2f, 0.4f}), 0.41f);
 }
 
 TEST(Initializer, RunsUpByRankPicksUpNewEntriesAndFinalizesDownReportingEachRankOnce)
 {
-    using Q = Queues<1>;
-    Q::Clear();
-    Template::Initializer<Q>(&Initialize<50>, &Finalize<50>, 0.5f);
-    Template::Initializer<Q>(&InitializeAndAddOne, &Finalize<2>, 0.02f);
-    Template::Initializer<Q>(&Initialize<90>, &Finalize<90>, 0.9f);
-    Template::Initializer<Q>(&Initialize<50>, &Finalize<50>, 0.5f);
-    Template::Initializer<Q>(nullptr, &Finalize<30>, 0.3f);
+    TestQueues::Clear();
+    Template::Initializer<TestQueues>(&Initialize<50>, &Finalize<50>, 0.5f);
+    Template::Initializer<TestQueues>(&InitializeAndAddOne, &Finalize<2>, 0.02f);
+    Template::Initializer<TestQueues>(&Initialize<90>, &Finalize<90>, 0.9f);
+    Template::Initializer<TestQueues>(&Initialize<50>, &Finalize<50>, 0.5f);
+    Template::Initializer<TestQueues>(nullptr, &Finalize<30>, 0.3f);
 
     steps.clear();
-    Initializer::RunInitializers<Q>();
+    Initializer::RunInitializers<TestQueues>();
     EXPECT_EQ(steps, (std::vector<std::string>{"initialize 2", "initialize 1", "initialize 50", "initialize 50",
                                                "initialize 90"}));
 
     steps.clear();
-    progressCalls.clear();
-    Initializer::RunFinalizers<Q>(&RecordProgress);
+    StartupPlugins::progressCalls.clear();
+    Initializer::RunFinalizers<TestQueues>(&StartupPlugins::RecordProgress);
     EXPECT_EQ(steps, (std::vector<std::string>{"finalize 90", "finalize 50", "finalize 50", "finalize 30",
                                                "finalize 2", "finalize 1"}));
-    EXPECT_EQ(progressCalls, (std::vector<float>{0.9f, 0.5f, 0.3f, 0.02f, 0.0f}));
-    EXPECT_EQ(Q::Initializers().size(), 6u) << "back in place for the next start";
+    EXPECT_EQ(StartupPlugins::progressCalls, (std::vector<float>{0.9f, 0.5f, 0.3f, 0.02f, 0.0f}));
+    EXPECT_EQ(TestQueues::Initializers().size(), 6u) << "back in place for the next start";
 }
 
 int neverRun = 0;

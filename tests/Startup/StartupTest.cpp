@@ -1,5 +1,5 @@
-// The startup library: the initialisation state, the general critical
-// section, and the allocator with its memory-pressure hook.
+// The startup library: the general critical section, and the allocator with
+// its memory-pressure hook.
 #include "Quilon_/Startup.h"
 
 #include <gtest/gtest.h>
@@ -21,14 +21,8 @@ void RecordPressure(std::size_t size)
     reports.push_back(size);
 }
 
-TEST(StartupTest, StateIsKeptAndGeneralCriticalSectionIsRecursiveAndExcludesOtherThreads)
+TEST(StartupTest, GeneralCriticalSectionIsRecursiveAndExcludesOtherThreads)
 {
-    const int saved = InitializationState();
-    for (int state : {-1, 3, saved}) {
-        SetInitializationState(state);
-        EXPECT_EQ(InitializationState(), state);
-    }
-
     EnterGeneralCriticalSection();
     EnterGeneralCriticalSection(); // must not deadlock on the same thread
     std::atomic<bool> entered{false};

@@ -12,6 +12,7 @@
 #include "Quilon_/Startup.h"
 
 #include <string>
+#include <vector>
 
 namespace Quilon_::Tests::StartupPlugins {
 
@@ -26,6 +27,13 @@ inline constexpr const wchar_t* DecorateName = L"Quilon_::Tests::RecorderPlugin:
 // knows one key.
 inline constexpr const wchar_t* GreetingKey = L"Recorder.Greeting";
 inline constexpr const wchar_t* GreetingText = L"Hello from the recorder";
+
+// The ranks a shut-down reports to its progress callback, RecordProgress.
+inline std::vector<float> progressCalls;
+inline void RecordProgress(float rank)
+{
+    progressCalls.push_back(rank);
+}
 
 inline void Record(const std::wstring& step)
 {

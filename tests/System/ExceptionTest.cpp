@@ -11,7 +11,6 @@
 #include <gtest/gtest.h>
 
 #include <string>
-#include <thread>
 
 namespace Quilon_::Tests::ExceptionTests {
 
@@ -40,17 +39,6 @@ TEST_F(ExceptionTest, RaisedExceptionIsLocatedAndIsTheThreadsLastErrorOnce)
     EXPECT_NE(e->Function().find(L"RaiseValue(int)"), std::wstring::npos) << ToAnsi(e->Function());
     EXPECT_EQ(e->File(), L"tests/System/ExceptionTest.cpp");
     EXPECT_EQ(e->Line(), raisedLine);
-
-    // Another thread neither sees nor replaces it.
-    Pointer<IException, 0> seenThere, raisedThere, lastThere;
-    std::thread([&] {
-        seenThere = Library::ErrorManager()->TakeLastError();
-        raisedThere = Raised([] { RaiseValue(2); });
-        lastThere = Library::ErrorManager()->TakeLastError();
-    }).join();
-    EXPECT_FALSE(seenThere);
-    EXPECT_TRUE(lastThere == raisedThere);
-
     EXPECT_TRUE(Library::ErrorManager()->TakeLastError() == e);
     EXPECT_FALSE(Library::ErrorManager()->TakeLastError());
 }

@@ -2,7 +2,6 @@
 // FindDelegate, and the cloning of value references (policy 2). Where a
 // raised exception is located is checked once, by the raising sequence.
 #include "Quilon_/System/Pointer.h"
-#include "Quilon_/Library.h"
 #include "Quilon_/System/Type.h"
 
 #include "../Support/KernelDoubles.h"
@@ -47,10 +46,7 @@ private:
 const std::wstring NullAssignment = L"Pointer <Quilon_::Tests::Kernel::IThing> : attempt to assign 0 to a reference";
 const std::wstring NullAccess = L"Pointer <Quilon_::Tests::Kernel::IThing> : attempt to access a 0 pointer";
 
-class PointerTest : public ::testing::Test {
-protected:
-    void TearDown() override { Library::ErrorManager()->TakeLastError(); }
-};
+using PointerTest = RaisingTest;
 
 TEST_F(PointerTest, OnlyTheNullablePolicyHoldsNullAndNoneAccessesIt)
 {

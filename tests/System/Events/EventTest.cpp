@@ -1,5 +1,4 @@
 // Order, removal and life cycle of events and their handlers.
-#include "Quilon_/Library.h"
 #include "Quilon_/System/Event.h"
 #include "Quilon_/System/Raise.h"
 
@@ -18,7 +17,7 @@ using System::EventArgs::Empty;
 using System::Interface;
 using System::Pointer;
 
-class EventTest : public testing::Test {
+class EventTest : public RaisingTest {
 protected:
     Thing NewListener(const std::string& name) { return Thing(new CListener(&calls, name)); }
     static std::int64_t CountOf(const Thing& thing) { return dynamic_cast<System::Object&>(*thing).ReferenceCount(); }
@@ -114,7 +113,6 @@ TEST_F(EventTest, AHandlerOfTheWrongClassIsRefusedAndConsumed)
         ExpectLockFree();
         EXPECT_EQ(changed.HandlerCount(), 1);
     }
-    Library::ErrorManager()->TakeLastError();
 }
 
 TEST_F(EventTest, AThrowingHandlerEndsTheFiringAndReachesTheCallerUnchanged)
@@ -142,7 +140,6 @@ TEST_F(EventTest, AThrowingHandlerEndsTheFiringAndReachesTheCallerUnchanged)
     calls.clear();
     changed.Fire(Empty());
     EXPECT_EQ(calls, (Calls{"b", "c", "d"}));
-    Library::ErrorManager()->TakeLastError();
 }
 
 TEST_F(EventTest, FiringHoldsTheSenderAndTheTargetButDestructionEventsHoldNoSender)

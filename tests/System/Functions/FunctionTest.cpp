@@ -17,23 +17,18 @@
 #include <string>
 #include <vector>
 
-namespace {
+namespace Quilon_::Tests::FunctionTests {
 
-using namespace Quilon_;
 using namespace Quilon_::System;
 using namespace Quilon_::System::Functions;
 using Functions::Template::Function;
+using Kernel::CThing;
+using Kernel::IThing;
 using ::testing::ElementsAre;
 using ::testing::StartsWith;
-using Tests::RaisedMessage;
-using Tests::Record;
-using Tests::Refuse;
-using Tests::Rule;
-using Tests::RuleFailures;
-using Tests::Rules;
 
 // What implementations and rules did, in order.
-Tests::Log events = std::make_shared<std::vector<std::string>>();
+Log events = std::make_shared<std::vector<std::string>>();
 
 int First(int x)
 {
@@ -59,10 +54,9 @@ int SecondRaises(int)
     QUILON_RAISE(L"Second gave up");
 }
 
-class FunctionDispatch : public ::testing::Test {
+class FunctionDispatch : public RaisingTest {
 protected:
     void SetUp() override { events->clear(); }
-    void TearDown() override { Library::ErrorManager()->TakeLastError(); }
 
     // "First" registered before "Second": "Second" is index 0 and tried first.
     static Function<int (*)(int)> TwoOf(int (*first)(int), int (*second)(int))
@@ -92,12 +86,12 @@ TEST_F(FunctionDispatch, LastRegisteredRunsAloneAndARaisingOneFallsBack)
 
 // By-value arguments may be moved into the last implementation only: one
 // tried after a failure must still get the caller's object.
-std::int64_t HeldBy(Pointer<Tests::Kernel::IThing> thing)
+std::int64_t HeldBy(Pointer<IThing> thing)
 {
     return thing.Get() ? 1 : 0;
 }
 
-std::int64_t RaisesWith(Pointer<Tests::Kernel::IThing> thing)
+std::int64_t RaisesWith(Pointer<IThing> thing)
 {
     if (thing)
         QUILON_RAISE(L"Refused");
@@ -108,8 +102,8 @@ TEST_F(FunctionDispatch, ByValueArgumentsReachEveryImplementationTried)
 {
     int destructions = 0;
     {
-        Pointer<Tests::Kernel::IThing> thing(new Tests::Kernel::CThing(&destructions));
-        Function<std::int64_t (*)(Pointer<Tests::Kernel::IThing>)> op(L"Hold");
+        Pointer<IThing> thing(new CThing(&destructions));
+        Function<std::int64_t (*)(Pointer<IThing>)> op(L"Hold");
         op.Register(L"Holds", &HeldBy);
         op.Register(L"Raises", &RaisesWith);
         EXPECT_EQ(op(thing), 1);
@@ -142,7 +136,7 @@ TEST_F(FunctionDispatch, RefusalsGiveTheFirstComplaintOfTheLastTriedUnlessAnExce
     // An exception kept from an earlier implementation wins over refusals.
     auto raising = TwoOf(&First, &SecondRaises);
     raising.Implementations()[1].SetRules(rtCheck, Rules({Refuse(0, L"Argument #1 must be a double")}));
-    Pointer<IException, 0> thrown = Tests::Raised([&] { raising(3); });
+    Pointer<IException, 0> thrown = Raised([&] { raising(3); });
     EXPECT_EQ(thrown->Message(), L"Second gave up");
     EXPECT_TRUE(Library::ErrorManager()->TakeLastError() == thrown);
 }
@@ -178,34 +172,6 @@ TEST_F(FunctionRulesTest, ChainsRunInOrderAroundTheCallFunctionRulesBeforeOwn)
     EXPECT_EQ(op(5), 6);
     EXPECT_THAT(*events, ElementsAre("function check", "own check", "function make", "own make", "function check",
                                      "own check", "function pre", "own pre", "first", "function post", "own post"));
-}
-
-void Halve(int x, double& out)
-{
-    out = x * 0.5;
-}
-
-TEST_F(FunctionRulesTest, ArgumentsReplacedByMakeAreCheckedAgainAndOutputsAreWrittenBack)
-{
-    Function<void (*)(int, double&)> op(&Halve);
-    auto seen = std::make_shared<std::vector<double>>();
-    auto note = [seen](std::size_t index) -> Rule {
-        return [seen, index](std::vector<Any>& arguments, RuleFailures&) {
-            EXPECT_EQ(arguments.size(), 2u);
-            seen->push_back(index ? arguments[1].CastTo<double>() : arguments[0].CastTo<int>());
-            return true;
-        };
-    };
-    op.SetRules(rtCheck, Rules({note(0)}));
-    op.SetRules(rtMake, Rules({[](std::vector<Any>& arguments, RuleFailures&) {
-                    arguments[0] = ToAny(7);
-                    return true;
-                }}));
-    op.SetRules(rtPostExecute, Rules({note(1)}));
-    double out = 0;
-    op(3, out);
-    EXPECT_EQ(out, 3.5);
-    EXPECT_THAT(*seen, ElementsAre(3, 7, 3.5)) << "checked, checked after Make, written by the implementation";
 }
 
 std::vector<std::wstring> debugLines;
@@ -257,10 +223,6 @@ TEST_F(FunctionRulesTest, IgnoringFunctionRulesRunsOnlyOwnRules)
     EXPECT_THAT(*events, ElementsAre("function check"));
 }
 
-
-using Tests::Kernel::CThing;
-using Tests::Kernel::IThing;
-
 void Fill(Pointer<IThing> source, const std::wstring& label, std::int64_t& count, Pointer<IThing, 0>& copy)
 {
     events->push_back(ToAnsi(label));
@@ -272,6 +234,10 @@ TEST_F(FunctionRulesTest, RulesSeeBoxedArgumentsAndOnlyOutputsReachTheCallerAgai
 {
     Function<void (*)(Pointer<IThing>, const std::wstring&, std::int64_t&, Pointer<IThing, 0>&)> op(&Fill);
     Pointer<IThing> callers(new CThing(nullptr, 5)), made(new CThing(nullptr, 9));
+    op.SetRules(rtCheck, Rules({[](std::vector<Any>& arguments, RuleFailures&) {
+                    events->push_back("check " + ToAnsi(arguments[1].CastTo<std::wstring>()));
+                    return true;
+                }}));
     op.SetRules(rtMake, Rules({[made](std::vector<Any>& arguments, RuleFailures&) {
                     arguments[0] = ToAny(made);
                     arguments[1] = ToAny(L"made");
@@ -287,7 +253,7 @@ TEST_F(FunctionRulesTest, RulesSeeBoxedArgumentsAndOnlyOutputsReachTheCallerAgai
     std::int64_t count = 0;
     Pointer<IThing, 0> copy;
     op(callers, label, count, copy);
-    EXPECT_THAT(*events, ElementsAre("made"));
+    EXPECT_THAT(*events, ElementsAre("check caller's", "check made", "made")) << "what Make replaced is checked again";
     EXPECT_EQ(count, 9);
     EXPECT_EQ(countAfter, 9);
     EXPECT_TRUE(copy == made);
@@ -301,7 +267,7 @@ TEST_F(FunctionRulesTest, RulesSeeBoxedArgumentsAndOnlyOutputsReachTheCallerAgai
                     return true;
                 }}));
     EXPECT_EQ(RaisedMessage([&] { op(callers, label, count, copy); }), L"Cannot cast from 'double' to '__int64'");
-    EXPECT_TRUE(events->empty());
+    EXPECT_THAT(*events, ElementsAre("check caller's", "check caller's"));
 }
 
-} // namespace
+} // namespace Quilon_::Tests::FunctionTests
