@@ -10,6 +10,7 @@
 #include "Quilon_/System/Memory.h"
 #include "Quilon_/System/String.h"
 
+#include "../Support/BasicLibrary.h"
 #include "../Support/InChildProcess.h"
 #include "../Support/Raised.h"
 
@@ -22,12 +23,6 @@ namespace Quilon_::Tests::BasicLibrary {
 using namespace Quilon_::Math;
 using System::Pointer;
 using Matrix = Pointer<IMatrixD, 1>;
-
-void StartBasic()
-{
-    Library::SetInitializationFileName(System::ToString(QUILON_TEST_FIXTURES_DIR) + L"/Basic.xml");
-    Library::Initialize();
-}
 
 void ExpectMatrix(const Matrix& actual, std::int64_t rows, std::int64_t columns, const std::vector<double>& expected)
 {
