@@ -1,11 +1,9 @@
 #include "Math/ApproximatorImpl.h"
 
-#include "Quilon_/System/Threading/CriticalSection.h"
-#include "Quilon_/System/Threading/ThreadId.h"
+#include "Quilon_/System/GlobalVariable.h"
 #include "Quilon_/System/Type.h"
 
 #include <cmath>
-#include <unordered_map>
 #include <utility>
 
 namespace Quilon_::Math {
@@ -76,60 +74,6 @@ Pointer<System::ICloneable, 1> CApproximator::Clone()
 
 namespace {
 
-// The default approximator: one per thread, each made at the thread's first
-// read as a clone of the process-wide one. Cloning a CApproximator runs no
-// code that locks, so it is done under the section.
-class DefaultApproximatorStore {
-public:
-    Reference Get()
-    {
-        const std::uint32_t thread = System::Threading::CurrentThreadId();
-        System::Threading::GeneralCriticalSectionScope lock;
-        auto found = m_threads.find(thread);
-        if (found != m_threads.end())
-            return found->second;
-        Pointer<IApproximator, 0> clone;
-        System::Template::CloneVariable<IApproximator>(Pointer<IApproximator, 0>(m_processWide), clone);
-        return m_threads.emplace(thread, Reference(clone)).first->second;
-    }
-
-    void Set(Reference approximator)
-    {
-        const std::uint32_t thread = System::Threading::CurrentThreadId();
-        // What is replaced is released after the section.
-        Reference previousOfThread = approximator;
-        Reference previousProcessWide = approximator;
-        System::Threading::GeneralCriticalSectionScope lock;
-        auto [entry, made] = m_threads.try_emplace(thread, approximator);
-        if (!made)
-            std::swap(entry->second, previousOfThread);
-        if (thread == System::Threading::MainThreadId())
-            std::swap(m_processWide, previousProcessWide);
-    }
-
-    void Clear()
-    {
-        Threads dropped;
-        Reference previous(new CApproximator(0));
-        System::Threading::GeneralCriticalSectionScope lock;
-        dropped.swap(m_threads);
-        std::swap(m_processWide, previous);
-    }
-
-private:
-    using Threads = std::unordered_map<std::uint32_t, Reference, System::Threading::ThreadIdHash>;
-
-    Reference m_processWide{new CApproximator(0)};
-    Threads m_threads;
-};
-
-// Never destroyed, so that threads may still ask while the process exits.
-DefaultApproximatorStore& Store()
-{
-    static auto* const store = new DefaultApproximatorStore;
-    return *store;
-}
-
 Reference NewApproximator()
 {
     return Reference(new CApproximator(Approximator::DefaultApproximator()->Epsilon()));
@@ -156,20 +100,11 @@ namespace {
 }();
 } // namespace
 
-Reference DefaultApproximator()
-{
-    return Store().Get();
-}
-
-void SetDefaultApproximator(Reference approximator)
-{
-    Store().Set(std::move(approximator));
-}
-
-void ClearDefaultApproximator()
-{
-    Store().Clear();
-}
+// One per thread, each made at the thread's first read as a clone of the
+// process-wide one, which the main thread's writes replace. Until a library
+// sets it, the tolerance is 0.
+QUILON_DEFINE_SETTING(DefaultApproximator, SetDefaultApproximator, ClearDefaultApproximator,
+                      Reference(new CApproximator(0)), System::gvsPerThreadFromMain)
 
 } // namespace Approximator
 

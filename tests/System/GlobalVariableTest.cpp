@@ -48,6 +48,21 @@ TEST(GlobalVariableTest, EachThreadSetsOnlyItsOwnValue)
     EXPECT_EQ(OnNewThread([] { return Sample(); }), -1);
 }
 
+TEST(GlobalVariableTest, WithTheMainScopeTheMainThreadsWritesBecomeTheDefault)
+{
+    GlobalVariable<int> tolerance(1, System::gvsPerThreadFromMain);
+    ASSERT_EQ(System::Threading::CurrentThreadId(), System::Threading::MainThreadId());
+    OnNewThread([&] {
+        tolerance.Set(2);
+        return 0;
+    });
+    EXPECT_EQ(tolerance.Get(), 1) << "another thread's write stays its own";
+    tolerance.Set(3);
+    EXPECT_EQ(OnNewThread([&] { return tolerance.Get(); }), 3);
+    tolerance.Clear();
+    EXPECT_EQ(OnNewThread([&] { return tolerance.Get(); }), 1);
+}
+
 TEST(GlobalVariableTest, EachThreadGetsItsOwnCloneOfAnObject)
 {
     int destructions = 0;

@@ -12,7 +12,9 @@
 // Collections::ICloneable, deep, if it has it, else System::ICloneable; with
 // neither, the Get raises "Class '%1%' does not implement ICloneable").
 // Set writes the calling thread's own entry, making it if missing, and
-// leaves the default alone: what one thread sets, no other thread sees.
+// leaves the default alone: what one thread sets, no other thread sees;
+// with gvsPerThreadFromMain, what the main thread sets becomes the default
+// as well.
 // Clear drops all entries, so that every thread falls back to the default,
 // and puts the initial value back, which releases any object held by a
 // process-wide setting at shut-down.
@@ -45,6 +47,9 @@ enum GlobalVariableScopeEnumTag : std::int32_t {
     gvsProcess = 0,
     // One value per thread, made from the default at the thread's first read.
     gvsPerThread = 1,
+    // As gvsPerThread, and a write from the main thread also replaces the
+    // default, so that threads started later begin with it.
+    gvsPerThreadFromMain = 2,
 };
 using GlobalVariableScopeEnum = GlobalVariableScopeEnumTag;
 
@@ -103,16 +108,19 @@ public:
     {
         const std::uint32_t thread = Threading::CurrentThreadId();
         Threading::GeneralCriticalSectionScope lock;
-        // The old value leaves with `value`, after the lock.
-        if (m_scope == gvsPerThread) {
+        // Old values leave with `value` and `previousDefault`, after the lock.
+        T previousDefault;
+        if (m_scope == gvsProcess || (m_scope == gvsPerThreadFromMain && thread == Threading::MainThreadId())) {
+            previousDefault = value;
+            std::swap(m_default, previousDefault);
+            ++m_defaultVersion;
+        }
+        if (m_scope != gvsProcess) {
             // try_emplace leaves `value` alone when the entry exists.
             auto [entry, made] = m_entries.try_emplace(thread, std::move(value));
             if (!made)
                 std::swap(entry->second, value);
-            return;
         }
-        std::swap(m_default, value);
-        ++m_defaultVersion;
     }
 
     void Clear()
