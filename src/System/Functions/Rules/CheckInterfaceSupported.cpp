@@ -15,7 +15,7 @@ public:
 
     bool Apply(std::vector<Any>& arguments, RuleFailures& failures) override
     {
-        auto argument = arguments.at(static_cast<std::size_t>(index)).CastTo<Pointer<Interface, 0>>();
+        Interface* argument = Argument(arguments.at(static_cast<std::size_t>(index)));
         if (argument && type.IsImplementedBy(argument))
             return true;
         return Refuse(failures, index, L"Argument #%1% must implement struct '%2%'", index + 1, type.Name());
@@ -25,6 +25,19 @@ public:
     std::vector<std::wstring> Arguments() override { return Detail::Texts(index, type.Name()); }
 
 private:
+    // The argument as an object, null when it holds none. Read in place:
+    // a copy would cost a reference taken and dropped, on every call.
+    static Interface* Argument(const Any& argument)
+    {
+        using Object = Pointer<Interface, 0>;
+        const System::Detail::AnyHolderBase* holder = argument.Holder();
+        if (const void* value = holder ? holder->ValuePointer(typeid(Object)) : nullptr)
+            return static_cast<const Object*>(value)->Get();
+        // Not an object: reading it as one raises why.
+        static_cast<void>(argument.CastTo<Object>());
+        return nullptr;
+    }
+
     const std::int64_t index;
     const Type type;
 };
