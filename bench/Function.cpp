@@ -7,6 +7,7 @@
 #include "Quilon_/System/ObjectImpl.h"
 #include "Quilon_/System/Type.h"
 
+#include "../tests/Support/RuleChainDoubles.h"
 #include "BenchValue.h"
 
 #include <benchmark/benchmark.h>
@@ -21,28 +22,6 @@ QUILON_DEFINE_INTERFACE_TYPE(IValue, L"Quilon_::Bench::IValue", System::Interfac
 class CAccept : public System::Template::ObjectImpl<CAccept, System::Functions::Rules::IRule> {
 public:
     bool Apply(std::vector<System::Any>&, System::Functions::Rules::RuleFailures&) override { return true; }
-};
-
-// Applies its rules in order, as the core's collection does.
-class CRuleList : public System::Template::ObjectImpl<CRuleList, System::Functions::Rules::IRuleCollection> {
-public:
-    explicit CRuleList(System::Pointer<System::Functions::Rules::IRule, 1> rule) : m_rules{rule} {}
-    bool Apply(std::vector<System::Any>& arguments, System::Functions::Rules::RuleFailures& failures,
-               bool continueAfterFailure) override
-    {
-        bool satisfied = true;
-        for (const auto& rule : m_rules) {
-            if (!rule->Apply(arguments, failures)) {
-                satisfied = false;
-                if (!continueAfterFailure)
-                    break;
-            }
-        }
-        return satisfied;
-    }
-
-private:
-    std::vector<System::Pointer<System::Functions::Rules::IRule, 1>> m_rules;
 };
 
 } // namespace Quilon_::Bench
@@ -122,8 +101,7 @@ BENCHMARK(BM_Operator_NoRules_ThreePointers);
 void BM_Operator_OneRule_ThreePointers(benchmark::State& state)
 {
     // One collection of one rule at Check, which runs twice per call.
-    SumOperatorWithRule.SetRules(Functions::rtCheck, Pointer<Functions::Rules::IRuleCollection, 1>(
-                                                         new Bench::CRuleList(new Bench::CAccept)));
+    SumOperatorWithRule.SetRules(Functions::rtCheck, Tests::Chain({Pointer<Functions::Rules::IRule>(new Bench::CAccept)}));
     Ref a(new Bench::CValue(1)), b(new Bench::CValue(2)), c(new Bench::CValue(3));
     for (auto _ : state) {
         int result = SumOperatorWithRule(a, b, c);

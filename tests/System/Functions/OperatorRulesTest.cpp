@@ -130,20 +130,6 @@ TEST_F(OperatorRules, SilencedArgumentsAreHeardAgainAfterSuccessFailureAndNestin
     EXPECT_TRUE(off->EventsDisabled()) << "left as it was found";
 }
 
-TEST_F(OperatorRules, ARuleReplacesAnArgumentForTheImplementationOnly)
-{
-    Pointer<IDisableEvents> replacement = Switch(true);
-    echo->SetRules(rtMake, Tests::Rules({[replacement](std::vector<Any>& arguments, RuleFailures&) {
-                       arguments[1] = ToAny(replacement);
-                       return true;
-                   }}));
-    Pointer<Interface, 0> source = Switch();
-    EXPECT_EQ((*echo)(Switch(), source, 0), L"Lenient: loud/loud") << "Lenient ignores the function's rules";
-    echo->SetNextRunImplementation(1);
-    EXPECT_EQ((*echo)(Switch(), source, 0), L"Echo: loud/silent");
-    EXPECT_EQ(Pointer<IDisableEvents>(source)->EventsDisabled(), false);
-}
-
 TEST_F(OperatorRules, IgnoringFunctionRulesStillRunsTheImplementationsOwn)
 {
     echo->SetRules(rtCheck, Chain({Implements(1, events)}));

@@ -80,29 +80,11 @@ TEST_F(KernelRules, DisableEventsWrapsOnlyWhatCanBeSilencedAndRestoresWhenTheArg
     EXPECT_EQ(loudObject->sets, 2);
 }
 
-TEST_F(KernelRules, NestedWrappersRestoreInTurn)
-{
-    Pointer<IDisableEvents> target(new CSwitch);
-    RuleFailures failures;
-    std::vector<Any> outer = {ToAny(target)};
-    DisableEvents::New(0)->Apply(outer, failures);
-    {
-        // An inner call gets the object itself, read back through the wrapper.
-        std::vector<Any> inner = {ToAny(outer[0].CastTo<Silenceable>())};
-        DisableEvents::New(0)->Apply(inner, failures);
-    }
-    EXPECT_TRUE(target->EventsDisabled()) << "the inner call leaves the outer's state";
-    outer.clear();
-    EXPECT_FALSE(target->EventsDisabled());
-}
-
 TEST_F(KernelRules, RulesOfSeveralArgumentsNeedAtLeastTwoIndexes)
 {
     EXPECT_EQ(AtLeastTwoIndexes({3, 0}), (std::vector<std::int64_t>{3, 0}));
     EXPECT_EQ(Tests::RaisedMessage([] { AtLeastTwoIndexes({1}); }),
               L"At least two argument indexes expected (1 provided)");
-    EXPECT_EQ(Tests::RaisedMessage([] { AtLeastTwoIndexes({}); }),
-              L"At least two argument indexes expected (0 provided)");
 }
 
 class CSilentRule : public Template::ObjectImpl<CSilentRule, IRule> {

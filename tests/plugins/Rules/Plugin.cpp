@@ -69,7 +69,15 @@ void Register()
     Plugin::ListedToo.SetRules(chains);
 }
 
-const Quilon_::System::Template::Initializer<::Library> registration(&Register, nullptr, 0.5f);
+// The chains go while the library still destroys objects: after shut-down,
+// releasing them would leave them undestroyed.
+void Unregister()
+{
+    Plugin::Listed.SetRules(RuleCollections{});
+    Plugin::ListedToo.SetRules(RuleCollections{});
+}
+
+const Quilon_::System::Template::Initializer<::Library> registration(&Register, &Unregister, 0.5f);
 
 } // namespace
 
