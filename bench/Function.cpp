@@ -7,6 +7,7 @@
 #include "Quilon_/System/ObjectImpl.h"
 #include "Quilon_/System/Type.h"
 
+#include "../tests/Support/RuleChainDoubles.h"
 #include "BenchValue.h"
 
 #include <benchmark/benchmark.h>

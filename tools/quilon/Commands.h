@@ -23,7 +23,7 @@ int Demo(const Arguments& arguments);
 int Info(const Arguments& arguments);
 // quilon operators [--init FILE] [PATTERN]: starts the library and lists the
 // operators whose name contains PATTERN, in any case of letters, with their
-// number of implementations.
+// number of implementations and, under each, the rules of each moment.
 int Operators(const Arguments& arguments);
 
 // What the commands that start the library take.

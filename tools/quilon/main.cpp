@@ -2,7 +2,7 @@
 // library linked like any other.
 //
 //   quilon info [--init FILE]                 start the library; what it loaded and what failed
-//   quilon operators [--init FILE] [PATTERN]  the operators known, with their implementations
+//   quilon operators [--init FILE] [PATTERN]  the operators known, with their implementations and rules
 //   quilon version                            the library version and its initialisation state
 //   quilon demo [--init FILE]                 work through the demo plug-in and the operator frame
 
@@ -24,7 +24,7 @@ struct Command {
 
 const Command commands[] = {
     {"info", &Quilon_::Tool::Info, "[--init FILE]: start the library; print what it loaded and each failure"},
-    {"operators", &Quilon_::Tool::Operators, "[--init FILE] [PATTERN]: list operators and their implementations"},
+    {"operators", &Quilon_::Tool::Operators, "[--init FILE] [PATTERN]: list operators, their implementations and rule chains"},
     {"version", &Quilon_::Tool::Version, "print the library version and the initialisation state"},
     {"demo", &Quilon_::Tool::Demo, "[--init FILE]: run the demo plug-in's operators and show a fall-back"},
 };

@@ -7,6 +7,8 @@
 //   extern QUILON_API Factory New;
 //   }
 //   Math::RangeD::Factory Math::RangeD::New;            // in one .cpp
+//   // or, with a default implementation per overload:
+//   Math::RangeD::Factory Math::RangeD::New(&NewEmptyRange, &NewRange);
 //
 //   Math::RangeD::New.Register(L"Plain range", &NewRange);   // the library that makes them
 //   Pointer<IRangeD, 1> range = Math::RangeD::New(0.0, 1.0);
@@ -34,6 +36,12 @@ template <class... Signatures>
 class QUILON_API Factory : public FactoryOverload<Signatures>... {
 public:
     using FactoryOverload<Signatures>::operator()...;
+
+    Factory() = default;
+    // A factory that makes its objects itself unless a library registers
+    // better: each overload gets its default implementation, unnamed, with
+    // rules honoured, as an operator made from a function pointer does.
+    explicit Factory(Signatures*... defaults) { (Overload<Signatures>().Register(defaults), ...); }
 
     // The operator of one overload, for registration, rules and listings.
     template <class Signature>

@@ -231,6 +231,30 @@ A PassOn(V& value, bool last)
 template <class A>
 using Unboxed = std::remove_cvref_t<A>;
 
+// Reads an argument back after the rules. Every interface reference is
+// boxed as Pointer<Interface,0>, so that is asked for first: a request for
+// the parameter's own Pointer type would miss, and each miss compares type
+// names. An object that the rules left in place is passed on as the caller
+// gave it, which spares the interface cast; casts and name comparisons are
+// most of the cost of a call with rules.
+template <class T, class Original>
+T Unbox(const Any& box, const Original& original)
+{
+    if constexpr (System::Detail::IsPointer<T>::value) {
+        if (const System::Detail::AnyHolderBase* holder = box.Holder()) {
+            if (const void* value = holder->ValuePointer(typeid(Pointer<Interface, 0>))) {
+                const auto& object = *static_cast<const Pointer<Interface, 0>*>(value);
+                if constexpr (std::is_same_v<T, Original>) {
+                    if (object.Get() == System::Detail::AsInterface(original.Get()))
+                        return original;
+                }
+                return T(object);
+            }
+        }
+    }
+    return box.template CastTo<T>();
+}
+
 // A parameter through which the implementation hands a value back.
 template <class A>
 inline constexpr bool IsOutput =
@@ -433,7 +457,7 @@ private:
     static void CallUnboxed(const Implementation& implementation, std::vector<Any>& boxed,
                             Detail::ResultOf<R>& result, std::index_sequence<I...>, A&... arguments)
     {
-        std::tuple<Detail::Unboxed<A>...> values(boxed[I].template CastTo<Detail::Unboxed<A>>()...);
+        std::tuple<Detail::Unboxed<A>...> values(Detail::Unbox<Detail::Unboxed<A>>(boxed[I], arguments)...);
         result.Call(
             [&]() -> R { return implementation.function(Detail::PassOn<A>(std::get<I>(values), true)...); });
         (StoreOutput<A>(std::get<I>(values), arguments, boxed[I]), ...);

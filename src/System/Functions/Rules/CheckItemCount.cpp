@@ -1,6 +1,8 @@
 #include "Quilon_/System/Functions/Rules/CheckItemCount.h"
 
 #include "Quilon_/System/Functions/Function.h"
+#include "Quilon_/System/Functions/Rules/Refuse.h"
+#include "Quilon_/System/Functions/Rules/RulePresentation.h"
 #include "Quilon_/System/ObjectImpl.h"
 #include "Quilon_/System/Raise.h"
 
@@ -48,15 +50,7 @@ std::optional<std::int64_t> ElementCount(const Any& value)
     return CollectionCount(value);
 }
 
-template <class... A>
-std::wstring Text(const wchar_t* format, const A&... arguments)
-{
-    System::Detail::Formatter formatter(System::Detail::TranslateMessage(format));
-    static_cast<void>((formatter % ... % arguments));
-    return formatter;
-}
-
-class CCheckItemCount : public System::Template::ObjectImpl<CCheckItemCount, IRule> {
+class CCheckItemCount : public System::Template::ObjectImpl<CCheckItemCount, IRule, IRulePresentation> {
 public:
     CCheckItemCount(std::int64_t index, std::int64_t minimum, std::int64_t maximum)
         : m_index(index), m_minimum(minimum), m_maximum(maximum)
@@ -67,22 +61,20 @@ public:
     {
         std::optional<std::int64_t> count = ElementCount(arguments.at(static_cast<std::size_t>(m_index)));
         if (!count)
-            return Fail(failures, Text(L"Argument #%1% is of an unsupported vector type", m_index + 1));
+            return Refuse(failures, m_index, L"Argument #%1% is of an unsupported vector type", m_index + 1);
         if (m_minimum >= 0 && *count < m_minimum)
-            return Fail(failures,
-                        Text(L"Argument #%1% must contain at least '%2%' elements", m_index + 1, m_minimum));
+            return Refuse(failures, m_index, L"Argument #%1% must contain at least '%2%' elements", m_index + 1,
+                          m_minimum);
         if (m_maximum >= 0 && *count > m_maximum)
-            return Fail(failures, Text(L"Argument #%1% must contain less than or exactly '%2%' elements",
-                                       m_index + 1, m_maximum));
+            return Refuse(failures, m_index, L"Argument #%1% must contain less than or exactly '%2%' elements",
+                          m_index + 1, m_maximum);
         return true;
     }
 
+    std::wstring ClassName() override { return L"CCheckItemCount"; }
+    std::vector<std::wstring> Arguments() override { return Detail::Texts(m_index, m_minimum, m_maximum); }
+
 private:
-    bool Fail(RuleFailures& failures, std::wstring text) const
-    {
-        failures.emplace_back(m_index, std::move(text));
-        return false;
-    }
 
     std::int64_t m_index;
     std::int64_t m_minimum;
