@@ -341,6 +341,36 @@ ReaderRef operator>>(ReaderRef reader, System::Type& value)
     return reader;
 }
 
+WriterRef operator<<(WriterRef writer, const System::DateTime& value)
+{
+    return writer << value.Year() << value.Month() << value.Day() << value.Hour() << value.Minute()
+                  << value.Second() << value.Millisecond();
+}
+
+ReaderRef operator>>(ReaderRef reader, System::DateTime& value)
+{
+    unsigned short year = 0, milliseconds = 0;
+    unsigned char month = 0, day = 0, hour = 0, minute = 0, second = 0;
+    reader = reader >> year >> month >> day >> hour >> minute >> second >> milliseconds;
+    value = System::DateTime(year, month, day, hour, minute, second, milliseconds);
+    return reader;
+}
+
+WriterRef operator<<(WriterRef writer, const Math::Moments& value)
+{
+    return writer << value.Minimum() << value.Maximum() << value.Mean() << value.StandardDeviation()
+                  << value.Skewness() << value.Kurtosis();
+}
+
+ReaderRef operator>>(ReaderRef reader, Math::Moments& value)
+{
+    Math::Moments read;
+    reader = reader >> read.Minimum() >> read.Maximum() >> read.Mean() >> read.StandardDeviation() >>
+             read.Skewness() >> read.Kurtosis();
+    value = read;
+    return reader;
+}
+
 WriterRef operator<<(WriterRef writer, const System::Any& value)
 {
     // The slot takes the value by reference for the row writers, which only
