@@ -198,8 +198,6 @@ TEST_F(ArchiveTest, ValuesReadBackEqualWithTheStreamsCountWidth)
         StartBasic();
         WriterRef narrow = Writer::New(false, false);
         narrow << int64_t(-1) << std::wstring(L"\u00e9t\u00e9") << ToAny(DateTime(2020, 5, 17, 8, 30, 0, 250));
-        EXPECT_EQ(RaisedMessage([&] { narrow << (int64_t(1) << 32); }),
-                  L"Int value exceeds 32 bits storage: '4294967296'");
         Bytes bytes = BytesOf(narrow->Contents());
         // Header, then -1 on four bytes.
         ASSERT_GE(bytes.size(), 12u);
