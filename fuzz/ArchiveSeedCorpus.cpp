@@ -26,7 +26,7 @@ std::vector<Any> Samples()
         Any(),
         ToAny(true),
         ToAny(-7),
-        ToAny(std::int64_t(1) << 40),
+        ToAny(std::int64_t(-123456)),
         ToAny(2.5),
         ToAny(std::complex<double>(1, -1)),
         ToAny(boost::rational<int>(3, 4)),
@@ -45,6 +45,8 @@ std::vector<Any> Samples()
 
 } // namespace
 
+int WriteCorpus(const std::string& folder);
+
 int main(int argc, char** argv)
 {
     if (argc != 2) {
@@ -53,7 +55,16 @@ int main(int argc, char** argv)
     }
     Quilon_::Library::SetInitializationFileName(ToString(QUILON_FIXTURES_DIR "/Basic.xml"));
     Quilon_::Library::Initialize();
-    const std::string folder = argv[1];
+    try {
+        return WriteCorpus(argv[1]);
+    } catch (const Pointer<IException, 1>& failure) {
+        std::fprintf(stderr, "ArchiveSeedCorpus: %s\n", ToAnsi(failure->Message()).c_str());
+        return 1;
+    }
+}
+
+int WriteCorpus(const std::string& folder)
+{
     ::mkdir(folder.c_str(), 0755);
     const std::vector<Any> samples = Samples();
     int written = 0;

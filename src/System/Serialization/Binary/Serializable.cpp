@@ -247,13 +247,15 @@ ReaderRef operator>>(ReaderRef reader, std::complex<double>& value)
 }
 
 // A zero denominator in a corrupt archive must not reach boost, which throws
-// an exception of its own for it.
+// an exception of its own for it; nor may the lowest signed value, which
+// boost negates when it moves the sign to the numerator.
 template <class T>
 static ReaderRef ReadRational(ReaderRef reader, boost::rational<T>& value)
 {
     T numerator{}, denominator{};
     reader = reader >> numerator >> denominator;
-    if (denominator == 0)
+    constexpr T lowest = std::numeric_limits<T>::min();
+    if (denominator == 0 || (std::is_signed_v<T> && (numerator == lowest || denominator == lowest)))
         QUILON_RAISE(L"Invalid rational number in archive: %1%/%2%", numerator, denominator);
     value.assign(numerator, denominator);
     return reader;

@@ -68,6 +68,8 @@ public:
         if (size < 0 || size > remaining)
             QUILON_RAISE(L"Unexpected end of archive '%1%': %2% bytes wanted at position %3%, %4% remain",
                          Archive::SourceName(m_source), size, m_position, remaining < 0 ? 0 : remaining);
+        if (size == 0)
+            return;
         std::memcpy(data, Bytes() + m_position, static_cast<std::size_t>(size));
         m_position += size;
     }
