@@ -8,6 +8,16 @@ DEMO_ARGS ?= demo --init tools/quilon/Demo.xml
 BUILD_DIR := build
 ASAN_DIR  := build-asan
 TSAN_DIR  := build-tsan
+FUZZ_DIR  := build-fuzz
+
+# Seconds of fuzzing: FUZZ_TIME for make fuzz, FUZZ_SHORT_TIME within make test.
+FUZZ_TIME ?= 60
+FUZZ_SHORT_TIME ?= 15
+CLANGXX ?= clang++
+# Succeeds when clang can link a libFuzzer target here (clang and its
+# runtime libraries installed).
+fuzz_available = printf 'extern "C" int LLVMFuzzerTestOneInput(const char*, unsigned long) { return 0; }' | \
+    $(CLANGXX) -x c++ -fsanitize=fuzzer - -o /dev/null >/dev/null 2>&1
 
 CMAKE ?= cmake
 CTEST ?= ctest
@@ -31,7 +41,7 @@ STRESS_FILTER ?= *Concurrency*:ReferenceCountTest.CopiesOnTwoThreads*
 
 # Steps run in the order written; Ninja and ctest parallelise inside each step.
 .NOTPARALLEL:
-.PHONY: all deps build test asan tsan stress demo bench format clean
+.PHONY: all deps build test asan tsan fuzz fuzz-build stress demo bench format clean
 
 all: build
 
@@ -46,6 +56,11 @@ test: deps build
 	$(call run_tests,$(BUILD_DIR))
 	$(MAKE) --no-print-directory asan
 	$(MAKE) --no-print-directory tsan
+	@if $(fuzz_available); then \
+	    $(MAKE) --no-print-directory fuzz FUZZ_TIME=$(FUZZ_SHORT_TIME); \
+	else \
+	    echo "test: clang's libFuzzer runtime is missing; the archive reader is not fuzzed"; \
+	fi
 
 asan:
 	$(call configure,$(ASAN_DIR),-DQUILON_SANITIZE=ON -DQUILON_BUILD_BENCH=OFF)
@@ -56,6 +71,17 @@ tsan:
 	$(call configure,$(TSAN_DIR),-DQUILON_TSAN=ON -DQUILON_BUILD_BENCH=OFF)
 	$(call compile,$(TSAN_DIR))
 	$(call run_tests,$(TSAN_DIR),$(TSAN_ENV))
+
+# The archive reader under libFuzzer, AddressSanitizer and UBSan, from a seed
+# corpus that the writer produces; new inputs are kept in $(FUZZ_DIR)/corpus.
+fuzz-build:
+	CXX=$(CLANGXX) $(call configure,$(FUZZ_DIR),-DQUILON_FUZZ=ON -DQUILON_BUILD_TESTS=OFF -DQUILON_BUILD_BENCH=OFF)
+	$(call compile,$(FUZZ_DIR))
+
+fuzz: fuzz-build
+	$(FUZZ_DIR)/bin/ArchiveSeedCorpus $(FUZZ_DIR)/corpus
+	$(ASAN_ENV) $(FUZZ_DIR)/bin/ArchiveReaderFuzzer -max_total_time=$(FUZZ_TIME) -max_len=4096 \
+	    -timeout=10 -rss_limit_mb=2048 -print_final_stats=1 $(FUZZ_DIR)/corpus
 
 stress: build
 	$(call compile,$(STRESS_DIR))
@@ -78,4 +104,4 @@ format:
 	    -print0 | xargs -0 -r $(CLANG_FORMAT) -i
 
 clean:
-	rm -rf $(BUILD_DIR) $(ASAN_DIR) $(TSAN_DIR)
+	rm -rf $(BUILD_DIR) $(ASAN_DIR) $(TSAN_DIR) $(FUZZ_DIR)

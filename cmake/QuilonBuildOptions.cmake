@@ -23,15 +23,25 @@ set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
 
 option(QUILON_SANITIZE "Build everything with AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
 option(QUILON_TSAN "Build everything with ThreadSanitizer" OFF)
+option(QUILON_FUZZ "Build the fuzz targets under fuzz/ (clang), with everything instrumented for them" OFF)
 
-if(QUILON_SANITIZE AND QUILON_TSAN)
-    message(FATAL_ERROR "QUILON_SANITIZE and QUILON_TSAN cannot be combined; use separate build folders")
+if((QUILON_SANITIZE AND QUILON_TSAN) OR (QUILON_FUZZ AND (QUILON_SANITIZE OR QUILON_TSAN)))
+    message(FATAL_ERROR "QUILON_SANITIZE, QUILON_TSAN and QUILON_FUZZ cannot be combined; use separate build folders")
 endif()
 
 # The sanitizers apply to every target, tests included: a library built without
 # them would hide faults that cross a library boundary.
 if(QUILON_SANITIZE)
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined)
+elseif(QUILON_FUZZ)
+    if(NOT CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+        message(FATAL_ERROR "QUILON_FUZZ needs clang (CXX=clang++); libFuzzer comes with it")
+    endif()
+    # Coverage for the fuzzer in every library; the fuzz targets link the
+    # fuzzer's own main.
+    add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=undefined
+                        -fno-omit-frame-pointer)
     add_link_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined)
 elseif(QUILON_TSAN)
     add_compile_options(-fsanitize=thread -fno-omit-frame-pointer)

@@ -25,6 +25,10 @@ int Info(const Arguments& arguments);
 // operators whose name contains PATTERN, in any case of letters, with their
 // number of implementations and, under each, the rules of each moment.
 int Operators(const Arguments& arguments);
+// quilon dump [--init FILE] ARCHIVE: starts the library and prints the
+// archive's header, then each value or object in it; fails on the first
+// value that cannot be read.
+int Dump(const Arguments& arguments);
 
 // What the commands that start the library take.
 struct StartOptions {

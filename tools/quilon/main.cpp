@@ -5,6 +5,7 @@
 //   quilon operators [--init FILE] [PATTERN]  the operators known, with their implementations and rules
 //   quilon version                            the library version and its initialisation state
 //   quilon demo [--init FILE]                 work through the demo plug-in and the operator frame
+//   quilon dump [--init FILE] ARCHIVE         the header and the values of an archive
 
 #include "Commands.h"
 
@@ -27,6 +28,7 @@ const Command commands[] = {
     {"operators", &Quilon_::Tool::Operators, "[--init FILE] [PATTERN]: list operators, their implementations and rule chains"},
     {"version", &Quilon_::Tool::Version, "print the library version and the initialisation state"},
     {"demo", &Quilon_::Tool::Demo, "[--init FILE]: run the demo plug-in's operators and show a fall-back"},
+    {"dump", &Quilon_::Tool::Dump, "[--init FILE] ARCHIVE: print an archive's header and each value in it"},
 };
 
 void PrintUsage(std::FILE* out)

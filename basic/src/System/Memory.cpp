@@ -26,6 +26,9 @@ public:
     {
         if (offset < 0 || count < 0 || offset + count > m_size)
             QUILON_RAISE(L"Copy of %1% bytes at %2% does not fit a block of %3%", count, offset, m_size);
+        // An empty block has no bytes at all, not even an address to copy to.
+        if (count == 0)
+            return;
         std::memcpy(static_cast<char*>(m_data) + offset, source, static_cast<std::size_t>(count));
     }
 

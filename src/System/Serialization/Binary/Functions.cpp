@@ -1,6 +1,7 @@
 #include "Quilon_/System/Serialization/Binary/Functions.h"
 
 #include "Quilon_/System/Helper.h"
+#include "Quilon_/System/Serialization/FactoryDictionary.h"
 #include "Quilon_/System/Raise.h"
 #include "Quilon_/System/Threading/CriticalSection.h"
 
@@ -95,6 +96,9 @@ void RegisterCoreRows()
     Row<vector<std::wstring>>();
     Row<System::LIString>();
     Row<System::Type>();
+    Row<System::DateTime>();
+    Row<Math::Moments>();
+    Row<vector<Math::Moments>>();
 }
 
 } // namespace
@@ -126,6 +130,29 @@ const Functions& RowOf(const std::wstring& name)
 }
 } // namespace
 
+namespace {
+
+// Values and objects may hold further values and objects, so reading one
+// recurses. A crafted archive of a few megabytes could nest deeply enough
+// to exhaust the stack; no archive that the toolkit writes comes near this.
+constexpr int DeepestNesting = 200;
+thread_local int nesting = 0;
+
+class NestingScope {
+public:
+    NestingScope()
+    {
+        if (nesting >= DeepestNesting)
+            QUILON_RAISE(L"Archive values are nested more than %1% levels deep", DeepestNesting);
+        ++nesting;
+    }
+    ~NestingScope() { --nesting; }
+    NestingScope(const NestingScope&) = delete;
+    NestingScope& operator=(const NestingScope&) = delete;
+};
+
+} // namespace
+
 void WriteFramed(WriterRef writer, System::Any& value)
 {
     const std::wstring name = System::Helper::TypeName(value.TypeInfo());
@@ -136,6 +163,7 @@ void WriteFramed(WriterRef writer, System::Any& value)
 
 void ReadFramed(ReaderRef reader, System::Any& value)
 {
+    NestingScope scope;
     std::wstring name;
     reader = reader >> name;
     const Functions& row = RowOf(name);
@@ -143,6 +171,48 @@ void ReadFramed(ReaderRef reader, System::Any& value)
         QUILON_RAISE(L"Type '%1%' cannot be read from an archive of version %2% (oldest: %3%)", name,
                      reader->Version(), row.version);
     row.reader(reader, value);
+}
+
+// An object is found again by the name of its most derived class, which is
+// the name under which the library that holds the class registers its
+// factory: Helper::TypeName(typeid(CClass)).
+void WriteFramedObject(WriterRef writer, System::Pointer<System::Interface, 0> object)
+{
+    if (!object) {
+        writer << std::wstring();
+        return;
+    }
+    System::Interface& instance = *object.Get();
+    const std::wstring name = System::Helper::TypeName(typeid(instance));
+    System::Pointer<ISerializable, 0> serializable(object);
+    if (!serializable)
+        QUILON_RAISE(L"An object of class '%1%' cannot be written to an archive: it is not serializable", name);
+    writer = writer << name;
+    serializable->Serialize(writer);
+}
+
+void ReadFramedObject(ReaderRef reader, System::Pointer<System::Interface, 0>& object)
+{
+    NestingScope scope;
+    std::wstring name;
+    reader = reader >> name;
+    if (name.empty()) {
+        object = System::Pointer<System::Interface, 0>();
+        return;
+    }
+    auto factories = Serialization::Factories();
+    if (!factories->ContainsKey(name))
+        QUILON_RAISE(L"Unknown class '%1%' in archive", name);
+    const Serialization::Factory factory = factories->Item(name);
+    if (reader->Version() < factory.minimumVersion)
+        QUILON_RAISE(L"Class '%1%' cannot be read from an archive of version %2% (oldest: %3%)", name,
+                     reader->Version(), factory.minimumVersion);
+    System::Pointer<System::Interface, 1> made = factory();
+    System::Pointer<ISerializable, 0> serializable(made);
+    if (!serializable)
+        QUILON_RAISE(L"An object of class '%1%' cannot be read from an archive: it is not serializable", name);
+    serializable->Deserialize(reader);
+    object = made;
 }
 
 } // namespace Quilon_::System::Serialization::Binary

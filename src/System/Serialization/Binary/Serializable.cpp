@@ -247,13 +247,15 @@ ReaderRef operator>>(ReaderRef reader, std::complex<double>& value)
 }
 
 // A zero denominator in a corrupt archive must not reach boost, which throws
-// an exception of its own for it.
+// an exception of its own for it; nor may the lowest signed value, which
+// boost negates when it moves the sign to the numerator.
 template <class T>
 static ReaderRef ReadRational(ReaderRef reader, boost::rational<T>& value)
 {
     T numerator{}, denominator{};
     reader = reader >> numerator >> denominator;
-    if (denominator == 0)
+    constexpr T lowest = std::numeric_limits<T>::min();
+    if (denominator == 0 || (std::is_signed_v<T> && (numerator == lowest || denominator == lowest)))
         QUILON_RAISE(L"Invalid rational number in archive: %1%/%2%", numerator, denominator);
     value.assign(numerator, denominator);
     return reader;
@@ -338,6 +340,36 @@ ReaderRef operator>>(ReaderRef reader, System::Type& value)
         QUILON_RAISE(L"Unknown type '%1%'", name);
     else
         value = System::Type(System::Type::ValueType(name));
+    return reader;
+}
+
+WriterRef operator<<(WriterRef writer, const System::DateTime& value)
+{
+    return writer << value.Year() << value.Month() << value.Day() << value.Hour() << value.Minute()
+                  << value.Second() << value.Millisecond();
+}
+
+ReaderRef operator>>(ReaderRef reader, System::DateTime& value)
+{
+    unsigned short year = 0, milliseconds = 0;
+    unsigned char month = 0, day = 0, hour = 0, minute = 0, second = 0;
+    reader = reader >> year >> month >> day >> hour >> minute >> second >> milliseconds;
+    value = System::DateTime(year, month, day, hour, minute, second, milliseconds);
+    return reader;
+}
+
+WriterRef operator<<(WriterRef writer, const Math::Moments& value)
+{
+    return writer << value.Minimum() << value.Maximum() << value.Mean() << value.StandardDeviation()
+                  << value.Skewness() << value.Kurtosis();
+}
+
+ReaderRef operator>>(ReaderRef reader, Math::Moments& value)
+{
+    Math::Moments read;
+    reader = reader >> read.Minimum() >> read.Maximum() >> read.Mean() >> read.StandardDeviation() >>
+             read.Skewness() >> read.Kurtosis();
+    value = read;
     return reader;
 }
 

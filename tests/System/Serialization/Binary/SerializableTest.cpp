@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <complex>
+#include <cstring>
 #include <limits>
 
 using namespace Quilon_;
@@ -167,4 +168,28 @@ TEST_F(BinaryStreams, CorruptCountsFailBeforeAnythingIsAllocated)
                   NewMemoryReader(Bytes{1, 2, 3}) >> truncated;
               }),
               L"Unexpected end of archive");
+}
+
+TEST_F(BinaryStreams, DateTimeTakesNineBytesAndMomentsSixDoubles)
+{
+    const System::DateTime moment(2024, 2, 29, 23, 59, 58, 0x0234);
+    EXPECT_EQ(Encoded(moment), (Bytes{0xE8, 0x07, 2, 29, 23, 59, 58, 0x34, 0x02}));
+    // The clock fills in the day of the week; the archive does not keep it.
+    const System::DateTime fromClock = moment + System::Millisecond(0);
+    ASSERT_NE(fromClock.DayOfWeek(), System::dwSunday);
+    const System::DateTime read = RoundTrip(fromClock);
+    EXPECT_EQ(read.DayOfWeek(), System::dwSunday);
+    EXPECT_EQ(read, moment);
+
+    Math::Moments moments;
+    moments.Minimum() = -1;
+    moments.Kurtosis() = 6;
+    const Bytes bytes = Encoded(moments);
+    ASSERT_EQ(bytes.size(), 48u);
+    double last = 0;
+    std::memcpy(&last, bytes.data() + 40, sizeof(double));
+    EXPECT_EQ(last, 6);
+    EXPECT_EQ(RoundTrip(moments), moments);
+    EXPECT_EQ(RoundTrip(std::vector<Math::Moments>{moments, Math::Moments()}, false),
+              (std::vector<Math::Moments>{moments, Math::Moments()}));
 }

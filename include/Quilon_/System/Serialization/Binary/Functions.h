@@ -5,7 +5,10 @@
 //   Binary::Register<Geometry::Handle>();    // a domain's type, in its initialiser
 //
 // The concrete streams frame an Any as the type's name followed by what the
-// row's writer writes; WriteFramed and ReadFramed do exactly that.
+// row's writer writes; WriteFramed and ReadFramed do exactly that. Objects
+// (slot 4) are framed by their class name, as registered in Factories(),
+// followed by what the object's ISerializable writes:
+// WriteFramedObject and ReadFramedObject.
 #pragma once
 
 #include "Quilon_/System/Serialization/Binary/Serializable.h"
@@ -61,5 +64,14 @@ void Register(unsigned short version = OldestVersion)
 // The type's name, then the row's record; raises for a type without a row.
 QUILON_API void WriteFramed(WriterRef writer, System::Any& value);
 QUILON_API void ReadFramed(ReaderRef reader, System::Any& value);
+
+// The name of the object's most derived class (Helper::TypeName), then what
+// its Serialize writes; a null object is an empty name alone. Raises for an
+// object that is not ISerializable.
+QUILON_API void WriteFramedObject(WriterRef writer, System::Pointer<System::Interface, 0> object);
+// The name, the factory registered under it in Factories(), a new instance
+// and its Deserialize. Refuses a class unknown to this process, and an
+// archive older than the factory's minimum version.
+QUILON_API void ReadFramedObject(ReaderRef reader, System::Pointer<System::Interface, 0>& object);
 
 } // namespace Quilon_::System::Serialization::Binary

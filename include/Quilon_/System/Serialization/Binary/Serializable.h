@@ -10,6 +10,8 @@
 // Each operator takes the stream by value and returns it, so calls chain.
 #pragma once
 
+#include "Quilon_/Math/Moments.h"
+#include "Quilon_/System/DateTime.h"
 #include "Quilon_/System/Serialization/Binary/Reader.h"
 #include "Quilon_/System/Serialization/Binary/Writer.h"
 #include "Quilon_/System/String.h"
@@ -87,6 +89,17 @@ QUILON_API ReaderRef operator>>(ReaderRef reader, System::LIString& value);
 QUILON_API WriterRef operator<<(WriterRef writer, const System::Type& value);
 QUILON_API ReaderRef operator>>(ReaderRef reader, System::Type& value);
 
+// Nine bytes: the year on two, month, day, hour, minute and second on one
+// each, the milliseconds on two. The day of the week is not stored and
+// reads back as 0 (Sunday).
+QUILON_API WriterRef operator<<(WriterRef writer, const System::DateTime& value);
+QUILON_API ReaderRef operator>>(ReaderRef reader, System::DateTime& value);
+
+// The six doubles in their order: minimum, maximum, mean, standard
+// deviation, skewness, kurtosis.
+QUILON_API WriterRef operator<<(WriterRef writer, const Math::Moments& value);
+QUILON_API ReaderRef operator>>(ReaderRef reader, Math::Moments& value);
+
 // Through the stream's own framing of dynamic values.
 QUILON_API WriterRef operator<<(WriterRef writer, const System::Any& value);
 QUILON_API ReaderRef operator>>(ReaderRef reader, System::Any& value);
@@ -160,6 +173,8 @@ std::uint64_t MinimumRecordSize(IReader& reader)
                MinimumRecordSize<typename T::second_type>(reader);
     else if constexpr (std::is_arithmetic_v<T>)
         return sizeof(T);
+    else if constexpr (std::is_same_v<T, Math::Moments>)
+        return 6 * sizeof(double);
     else
         return 1;
 }
