@@ -158,6 +158,8 @@ TEST(BasicLibrary, RangesIntervalsAndMemoryBlocks)
         EXPECT_EQ(static_cast<unsigned char*>(block->Data())[15], 0);
         block->Resize(4);
         EXPECT_EQ(block->Size(), 4);
+        Pointer<System::IMemory> empty = System::Memory::New(std::int64_t(0), false);
+        empty->CopyFrom(nullptr, 0, 0); // nothing to copy into an empty block, and no null handed on
 
         unsigned char bytesOfCaller[4] = {1, 2, 3, 4};
         Pointer<System::IMemory> view = System::Memory::New(bytesOfCaller, std::int64_t(4));

@@ -158,7 +158,8 @@ public:
 
 private:
     Detail::AnyHolderBase* m_holder = nullptr;
-    void* m_reserved = nullptr;
+    // Keeps the layout that other libraries were built against.
+    [[maybe_unused]] void* m_reserved = nullptr;
 };
 
 namespace Detail {

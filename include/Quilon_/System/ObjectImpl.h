@@ -56,6 +56,7 @@ public:
             return nullptr;
     }
 
+    using Interop::IProxyContainerImpl::SetProxy;
     void SetProxy(Interop::IProxy* value) override { Interop::IProxyContainerImpl::SetProxy(*this, value); }
     void* ProxyClass() override { return s_proxyClass; }
     void* SetProxyClass(void* value) override

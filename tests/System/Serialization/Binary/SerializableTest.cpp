@@ -163,6 +163,10 @@ TEST_F(BinaryStreams, CorruptCountsFailBeforeAnythingIsAllocated)
                   NewMemoryReader(Bytes{2, 0, 0, 0, 0, 0, 0, 0, 1}) >> strings;
               }),
               L"Invalid count in archive: 2 (only 1 bytes remain)");
+    // Values that the rational type cannot hold are refused, not handed on.
+    boost::rational<int> ratio;
+    for (Bytes bad : {Bytes{1, 0, 0, 0, 0, 0, 0, 0}, Bytes{0, 0, 0, 0x80, 1, 0, 0, 0}})
+        EXPECT_EQ(Tests::RaisedMessage([&] { NewMemoryReader(bad) >> ratio; }).rfind(L"Invalid rational number", 0), 0u);
     double truncated = 0;
     EXPECT_EQ(Tests::RaisedMessage([&] {
                   NewMemoryReader(Bytes{1, 2, 3}) >> truncated;
