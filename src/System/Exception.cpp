@@ -1,6 +1,9 @@
 #include "Quilon_/System/Exception.h"
 
+#include "Quilon_/PrivateLibrary.h"
+#include "Quilon_/System/Helper.h"
 #include "Quilon_/System/Raise.h"
+#include "Quilon_/System/Serialization/FactoryDictionary.h"
 #include "Quilon_/System/Type.h"
 #include "System/ExceptionImpl.h"
 
@@ -50,5 +53,28 @@ Pointer<ICancelException, 1> CancelException::RawNew(const std::wstring& message
 {
     return New(message, function, file, line);
 }
+
+namespace {
+
+template <class C>
+Pointer<Interface, 1> NewEmpty()
+{
+    return Pointer<Interface, 1>(static_cast<IException*>(new C));
+}
+
+// Exceptions are read back from archives by their class names. SetItem, so
+// that a second start-up finds them in place.
+void RegisterExceptionFactories()
+{
+    auto factories = Serialization::Factories();
+    factories->SetItem(Helper::TypeName(typeid(CException)),
+                       Serialization::Factory(&NewEmpty<CException>, Serialization::OldestVersion));
+    factories->SetItem(Helper::TypeName(typeid(CCancelException)),
+                       Serialization::Factory(&NewEmpty<CCancelException>, Serialization::OldestVersion));
+}
+
+const Template::Initializer<::Library> exceptionFactories(&RegisterExceptionFactories, nullptr, 0.2f);
+
+} // namespace
 
 } // namespace Quilon_::System

@@ -9,6 +9,7 @@
 #include "Quilon_/System/Serialization/FactoryDictionary.h"
 #include "Quilon_/System/String.h"
 
+#include "../Support/BasicLibrary.h"
 #include "../Support/InChildProcess.h"
 #include "../Support/Raised.h"
 
@@ -28,12 +29,6 @@ using Bytes = std::vector<unsigned char>;
 using std::int64_t;
 using std::uint64_t;
 using std::vector;
-
-void StartBasic()
-{
-    Library::SetInitializationFileName(ToString(QUILON_TEST_FIXTURES_DIR) + L"/Basic.xml");
-    Library::Initialize();
-}
 
 std::wstring TemporaryPath(const wchar_t* name)
 {
@@ -236,6 +231,21 @@ TEST_F(ArchiveTest, ObjectsAreMadeByTheirFactoriesAndRefusedFromOlderArchives)
         EXPECT_EQ(note->Number(), 42);
         EXPECT_FALSE(none);
         EXPECT_EQ(after, L"after");
+
+        // Exceptions travel with their message and location, cancellations as such.
+        WriterRef failures = Writer::New(false, false);
+        failures << Exception::New(L"broken", L"F()", L"System/X.cpp", 7)
+                 << Pointer<IException, 1>(CancelException::New(L"stopped", L"G()", L"Y.cpp", 9));
+        Bytes failureBytes = BytesOf(failures->Contents());
+        Pointer<IException, 0> broken, stopped;
+        ReaderOver(failureBytes) >> broken >> stopped;
+        ASSERT_TRUE(broken && stopped);
+        EXPECT_EQ(broken->Message() + broken->Function() + broken->File(), L"brokenF()System/X.cpp");
+        EXPECT_EQ(broken->Line(), 7);
+        using Cancel = Pointer<ICancelException, 0>;
+        EXPECT_FALSE(Cancel(broken));
+        ASSERT_TRUE(Cancel(stopped));
+        EXPECT_EQ(stopped->Line(), 9);
 
         // The same archive claiming version 4099, one below the note's oldest.
         Bytes old = BytesOf(writer->Contents());
