@@ -29,8 +29,9 @@ Pointer<IException, 1> Exception::RawNew(const std::wstring& message, const std:
 Pointer<IException, 1> Exception::OutOfMemory()
 {
     static IException* const instance = [] {
-        IException* made = new CException(Detail::TranslateMessage(L"Not enough memory to complete the operation"),
-                                          ToString(QUILON_FUNCTION), ToString(__FILE__), __LINE__);
+        IException* made =
+            new CException(Detail::TranslateMessage(L"Not enough memory to complete the operation"),
+                           ToString(QUILON_FUNCTION), ToString(__FILE__), __LINE__);
         made->AddReference();
         return made;
     }();
@@ -48,8 +49,9 @@ Pointer<ICancelException, 1> CancelException::New(const std::wstring& message, c
     return Pointer<ICancelException, 1>(new CCancelException(message, function, file, line));
 }
 
-Pointer<ICancelException, 1> CancelException::RawNew(const std::wstring& message, const std::wstring& function,
-                                                     const std::wstring& file, std::int64_t line)
+Pointer<ICancelException, 1> CancelException::RawNew(const std::wstring& message,
+                                                     const std::wstring& function, const std::wstring& file,
+                                                     std::int64_t line)
 {
     return New(message, function, file, line);
 }

@@ -3,6 +3,9 @@
 // factories, and archives that are damaged or too old. Each test starts the
 // library in a child process of its own.
 #include "Quilon_/Library.h"
+#include "Quilon_/Math/Interval.h"
+#include "Quilon_/Math/Matrix.h"
+#include "Quilon_/System/ExtendedPropertiesHelper.h"
 #include "Quilon_/System/Helper.h"
 #include "Quilon_/System/ObjectImpl.h"
 #include "Quilon_/System/Serialization/Binary/Functions.h"
@@ -57,7 +60,10 @@ QUILON_DEFINE_INTERFACE_TYPE(INote, L"Quilon_::Tests::Archives::INote", Interfac
 
 class CNote : public Template::ObjectImpl<CNote, INote, ISerializable> {
 public:
-    CNote(std::wstring title = std::wstring(), int64_t number = 0) : m_title(std::move(title)), m_number(number) {}
+    CNote(std::wstring title = std::wstring(), int64_t number = 0)
+        : m_title(std::move(title)), m_number(number)
+    {
+    }
     std::wstring Title() override { return m_title; }
     int64_t Number() override { return m_number; }
     void Serialize(WriterRef writer) override { writer << m_title << m_number; }
@@ -82,7 +88,8 @@ Pointer<Interface, 1> NewEmptyNote()
 // Notes can be read from archives of version 4100 on.
 void RegisterNote()
 {
-    Serialization::Factories()->Add(Helper::TypeName(typeid(CNote)), Serialization::Factory(&NewEmptyNote, 4100));
+    Serialization::Factories()->Add(Helper::TypeName(typeid(CNote)),
+                                    Serialization::Factory(&NewEmptyNote, 4100));
 }
 
 // One value of every row of the table, none of them a default value, so
@@ -157,7 +164,8 @@ TEST_F(ArchiveTest, EveryRowOfTheTableRoundTripsThroughAFileInEachMode)
         const std::wstring path = TemporaryPath(L"values");
         for (const bool int64Counts : {true, false}) {
             for (const bool ansi : {false, true}) {
-                SCOPED_TRACE(::testing::Message() << "8-byte counts " << int64Counts << ", narrow strings " << ansi);
+                SCOPED_TRACE(::testing::Message()
+                             << "8-byte counts " << int64Counts << ", narrow strings " << ansi);
                 WriterRef writer = Writer::New(int64Counts, ansi);
                 for (const Any& value : values)
                     writer << value;
@@ -174,7 +182,8 @@ TEST_F(ArchiveTest, EveryRowOfTheTableRoundTripsThroughAFileInEachMode)
                     reader >> read;
                     EXPECT_EQ(Helper::TypeName(read.TypeInfo()), Helper::TypeName(value.TypeInfo()));
                     // Re-written, the value read gives the bytes of the value written.
-                    WriterRef original = Writer::New(int64Counts, ansi), again = Writer::New(int64Counts, ansi);
+                    WriterRef original = Writer::New(int64Counts, ansi),
+                              again = Writer::New(int64Counts, ansi);
                     original << value;
                     again << read;
                     EXPECT_EQ(BytesOf(again->Contents()), BytesOf(original->Contents()))
@@ -192,7 +201,8 @@ TEST_F(ArchiveTest, ValuesReadBackEqualWithTheStreamsCountWidth)
     InChildProcess([] {
         StartBasic();
         WriterRef narrow = Writer::New(false, false);
-        narrow << int64_t(-1) << std::wstring(L"\u00e9t\u00e9") << ToAny(DateTime(2020, 5, 17, 8, 30, 0, 250));
+        narrow << int64_t(-1) << std::wstring(L"\u00e9t\u00e9")
+               << ToAny(DateTime(2020, 5, 17, 8, 30, 0, 250));
         Bytes bytes = BytesOf(narrow->Contents());
         // Header, then -1 on four bytes.
         ASSERT_GE(bytes.size(), 12u);
@@ -267,6 +277,44 @@ TEST_F(ArchiveTest, ObjectsAreMadeByTheirFactoriesAndRefusedFromOlderArchives)
     });
 }
 
+// The reference library's own classes, nested objects included.
+TEST_F(ArchiveTest, TheReferenceLibrarysObjectsRoundTripThroughAFile)
+{
+    InChildProcess([] {
+        StartBasic();
+        Pointer<IExtendedPropertyDictionary, 1> properties = ExtendedPropertyDictionary::New();
+        Pointer<IExtendedProperty, 1> unit =
+            ExtendedProperty::New(LIString(L"Unit"), ToAny(std::wstring(L"mm")), true, false);
+        unit->SetFlags(epfCopiable);
+        properties->Add(unit);
+        properties->Add(Pointer<IExtendedProperty, 1>(
+            ScalarExtendedProperty::New(LIString(L"Gain"), ToAny(2.5), Math::RangeD::New(0.0, 10.0), 0.5)));
+        const std::wstring path = TemporaryPath(L"library-objects");
+        WriterRef writer = Writer::New(false, true);
+        writer << properties << Math::MatrixD::New(2, 3, {1, 2, 3, 4, 5, 6})
+               << Math::IntervalD::New(-1.0, 1.0);
+        writer->Save(path);
+
+        Pointer<IExtendedPropertyDictionary, 0> read;
+        Pointer<Math::IMatrixD, 0> matrix;
+        Pointer<Math::IIntervalD, 0> interval;
+        Reader::New(path) >> read >> matrix >> interval;
+        ASSERT_TRUE(read && matrix && interval);
+        EXPECT_EQ(ExtendedPropertiesHelper::Value(read, L"Unit"), ToAny(std::wstring(L"mm")));
+        EXPECT_EQ(read->Find(LIString(L"Unit"))->Flags(), epfCopiable);
+        EXPECT_TRUE(read->Find(LIString(L"Unit"))->IsReadOnly());
+        Pointer<IScalarExtendedProperty, 1> gain(read->Find(LIString(L"Gain")));
+        EXPECT_EQ(gain->ScalarValue(), 2.5);
+        EXPECT_EQ(gain->Increment(), 0.5);
+        ASSERT_TRUE(gain->Range());
+        EXPECT_EQ(gain->Range()->Maximum(), 10.0);
+        EXPECT_EQ(matrix->Rows(), 2);
+        EXPECT_EQ(matrix->Values(), (vector<double>{1, 2, 3, 4, 5, 6}));
+        EXPECT_TRUE(interval->Contains(-1.0) && !interval->Contains(1.5));
+        std::remove(ToAnsi(path).c_str());
+    });
+}
+
 TEST_F(ArchiveTest, DamagedHeadersAreRefusedWithTheirSource)
 {
     InChildProcess([] {
@@ -282,11 +330,13 @@ TEST_F(ArchiveTest, DamagedHeadersAreRefusedWithTheirSource)
         Bytes newer = good;
         newer[4] = 4402 & 0xFF;
         newer[5] = 4402 >> 8;
-        EXPECT_EQ(messageFor(newer), L"Archive '(memory)' has version 4402; versions 4000 to 4401 can be read");
+        EXPECT_EQ(messageFor(newer),
+                  L"Archive '(memory)' has version 4402; versions 4000 to 4401 can be read");
         Bytes older = good;
         older[4] = 3999 & 0xFF;
         older[5] = 3999 >> 8;
-        EXPECT_EQ(messageFor(older), L"Archive '(memory)' has version 3999; versions 4000 to 4401 can be read");
+        EXPECT_EQ(messageFor(older),
+                  L"Archive '(memory)' has version 3999; versions 4000 to 4401 can be read");
         Bytes flags = good;
         flags[7] = 2;
         EXPECT_EQ(messageFor(flags), L"Archive '(memory)' has an invalid header: flags 1 and 2");
@@ -310,7 +360,8 @@ TEST_F(ArchiveTest, DamagedContentsRaiseInsteadOfCrashingOrAllocating)
         StartBasic();
         RegisterNote();
         WriterRef writer = Writer::New(false, false);
-        writer << ToAny(vector<double>{1, 2}) << Pointer<INote, 1>(new CNote(L"n", 1)) << ToAny(std::wstring(L"end"));
+        writer << ToAny(vector<double>{1, 2}) << Pointer<INote, 1>(new CNote(L"n", 1))
+               << ToAny(std::wstring(L"end"));
         const Bytes whole = BytesOf(writer->Contents());
         // Cut anywhere, the archive raises at the value that the cut falls in.
         for (std::size_t cut = 8; cut < whole.size(); ++cut) {

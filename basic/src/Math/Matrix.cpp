@@ -2,6 +2,7 @@
 
 #include "Quilon_/PrivateLibrary.h"
 #include "Quilon_/System/Raise.h"
+#include "System/Serializable.h"
 
 #include <algorithm>
 
@@ -36,6 +37,28 @@ CMatrixD::CMatrixD(std::int64_t rows, std::int64_t columns, const std::vector<do
     CheckDimensions(rows, columns);
     CheckValueCount(rows, columns, values);
     m_values = values;
+}
+
+void CMatrixD::Serialize(System::Pointer<System::Serialization::Binary::IWriter, 1> writer)
+{
+    writer << m_rows << m_columns << m_values;
+}
+
+// The dimensions come from an archive, which may be damaged: they are
+// checked against the elements read, without multiplying them.
+void CMatrixD::Deserialize(System::Pointer<System::Serialization::Binary::IReader, 1> reader)
+{
+    std::int64_t rows = 0, columns = 0;
+    std::vector<double> values;
+    reader >> rows >> columns >> values;
+    const auto count = static_cast<std::int64_t>(values.size());
+    const bool consistent = rows >= 0 && columns >= 0 &&
+                            (columns == 0 ? count == 0 : count % columns == 0 && count / columns == rows);
+    if (!consistent)
+        QUILON_RAISE(L"A %1% x %2% matrix needs %1% times %2% values, not %3%", rows, columns, count);
+    m_rows = rows;
+    m_columns = columns;
+    m_values = std::move(values);
 }
 
 void CMatrixD::SetValues(const std::vector<double>& values)
@@ -95,8 +118,14 @@ Matrix NewMatrixOf(std::int64_t rows, std::int64_t columns, const std::vector<do
     return Matrix(new CMatrixD(rows, columns, values));
 }
 
+System::Pointer<System::Interface, 1> NewEmptyMatrix()
+{
+    return System::Pointer<System::Interface, 1>(static_cast<IMatrixD*>(new CMatrixD(0, 0)));
+}
+
 void RegisterMatrix()
 {
+    RegisterSerializable<CMatrixD>(&NewEmptyMatrix);
     Quilon_::Math::MatrixD::New.Register(L"Dense matrix", &NewMatrix);
     Quilon_::Math::MatrixD::New.Register(L"Dense matrix", &NewMatrixOf);
 }

@@ -5,6 +5,7 @@
 #include "Quilon_/Math/Matrix.h"
 #include "Quilon_/System/Cloneable.h"
 #include "Quilon_/System/ObjectImpl.h"
+#include "Quilon_/System/Serialization/Binary/Serializable.h"
 
 #include <cstdint>
 #include <vector>
@@ -14,7 +15,8 @@ namespace Quilon_::Basic {
 using Quilon_::Math::IMatrixD;
 using Matrix = System::Pointer<IMatrixD, 1>;
 
-class CMatrixD : public System::Template::ObjectImpl<CMatrixD, IMatrixD, System::ICloneable> {
+class CMatrixD : public System::Template::ObjectImpl<CMatrixD, IMatrixD, System::ICloneable,
+                                                     System::Serialization::Binary::ISerializable> {
 public:
     // Raises for a negative dimension.
     CMatrixD(std::int64_t rows, std::int64_t columns);
@@ -34,6 +36,9 @@ public:
     Matrix Transposed() override;
 
     System::Pointer<System::ICloneable, 1> Clone() override;
+    // The dimensions, then the elements row after row.
+    void Serialize(System::Pointer<System::Serialization::Binary::IWriter, 1> writer) override;
+    void Deserialize(System::Pointer<System::Serialization::Binary::IReader, 1> reader) override;
 
 private:
     std::size_t Index(std::int64_t row, std::int64_t column) const;
@@ -46,7 +51,9 @@ private:
 // The elements of any IMatrixD, row after row, with its dimensions: the
 // functions compute on these and make the result through MatrixD::New.
 struct Dense {
-    explicit Dense(IMatrixD& matrix) : rows(matrix.Rows()), columns(matrix.Columns()), values(matrix.Values()) {}
+    explicit Dense(IMatrixD& matrix) : rows(matrix.Rows()), columns(matrix.Columns()), values(matrix.Values())
+    {
+    }
     Dense(std::int64_t rows, std::int64_t columns)
         : rows(rows), columns(columns), values(static_cast<std::size_t>(rows * columns))
     {

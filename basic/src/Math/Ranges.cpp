@@ -5,6 +5,7 @@
 #include "Quilon_/PrivateLibrary.h"
 #include "Quilon_/System/Cloneable.h"
 #include "Quilon_/System/ObjectImpl.h"
+#include "System/Serializable.h"
 
 namespace Quilon_::Basic {
 
@@ -15,7 +16,8 @@ namespace {
 
 // The two ranges differ only in the type of their bounds.
 template <class IRangeOf, class Bound>
-class CRangeOf : public System::Template::ObjectImpl<CRangeOf<IRangeOf, Bound>, IRangeOf, System::ICloneable> {
+class CRangeOf : public System::Template::ObjectImpl<CRangeOf<IRangeOf, Bound>, IRangeOf, System::ICloneable,
+                                                     System::Serialization::Binary::ISerializable> {
 public:
     CRangeOf(Bound minimum, Bound maximum) : m_minimum(minimum), m_maximum(maximum) {}
 
@@ -28,23 +30,41 @@ public:
     {
         return Pointer<System::ICloneable, 1>(new CRangeOf(m_minimum, m_maximum));
     }
+    void Serialize(Pointer<System::Serialization::Binary::IWriter, 1> writer) override
+    {
+        writer << m_minimum << m_maximum;
+    }
+    void Deserialize(Pointer<System::Serialization::Binary::IReader, 1> reader) override
+    {
+        reader >> m_minimum >> m_maximum;
+    }
 
 private:
     Bound m_minimum;
     Bound m_maximum;
 };
 
-class CIntervalD : public System::Template::ObjectImpl<CIntervalD, IIntervalD> {
+class CIntervalD : public System::Template::ObjectImpl<CIntervalD, IIntervalD,
+                                                       System::Serialization::Binary::ISerializable> {
 public:
     CIntervalD(double minimum, double maximum) : m_minimum(minimum), m_maximum(maximum) {}
 
     double Minimum() override { return m_minimum; }
     double Maximum() override { return m_maximum; }
     bool Contains(double value) override { return m_minimum <= value && value <= m_maximum; }
+    void Serialize(Pointer<System::Serialization::Binary::IWriter, 1> writer) override
+    {
+        writer << m_minimum << m_maximum;
+    }
+    // The only change an interval ever sees: being read.
+    void Deserialize(Pointer<System::Serialization::Binary::IReader, 1> reader) override
+    {
+        reader >> m_minimum >> m_maximum;
+    }
 
 private:
-    const double m_minimum;
-    const double m_maximum;
+    double m_minimum;
+    double m_maximum;
 };
 
 template <class IRangeOf, class Bound>
@@ -74,8 +94,18 @@ Pointer<IIntervalD, 1> NewSingleValueInterval(std::int64_t value)
     return NewInterval(static_cast<double>(value), static_cast<double>(value));
 }
 
+// The empty instances that archives are read into.
+template <class C, class I>
+Pointer<System::Interface, 1> NewEmpty()
+{
+    return Pointer<System::Interface, 1>(static_cast<I*>(new C(0, 0)));
+}
+
 void RegisterRanges()
 {
+    RegisterSerializable<CRangeOf<IRange, std::int64_t>>(&NewEmpty<CRangeOf<IRange, std::int64_t>, IRange>);
+    RegisterSerializable<CRangeOf<IRangeD, double>>(&NewEmpty<CRangeOf<IRangeD, double>, IRangeD>);
+    RegisterSerializable<CIntervalD>(&NewEmpty<CIntervalD, IIntervalD>);
     Range::New.Register(L"Range", &NewEmptyRange<IRange, std::int64_t>);
     Range::New.Register(L"Range", &NewRange<IRange, std::int64_t>);
     RangeD::New.Register(L"Range", &NewEmptyRange<IRangeD, double>);

@@ -8,6 +8,7 @@
 #include "Quilon_/System/ExtendedPropertyDictionary.h"
 #include "Quilon_/System/Helper.h"
 #include "Quilon_/System/ObjectImpl.h"
+#include "System/Serializable.h"
 
 #include <unordered_map>
 
@@ -19,7 +20,8 @@ namespace {
 
 // The state and operations that every kind of property shares.
 template <class Derived, class I>
-class CPropertyBase : public Template::ObjectImpl<Derived, I, ICloneable> {
+class CPropertyBase
+    : public Template::ObjectImpl<Derived, I, ICloneable, Serialization::Binary::ISerializable> {
 public:
     CPropertyBase(LIString name, Any value, bool readOnly, unsigned char flags)
         : m_name(std::move(name)), m_value(std::move(value)), m_readOnly(readOnly), m_flags(flags)
@@ -27,8 +29,9 @@ public:
     }
     // A clone is a new object: its count starts afresh.
     CPropertyBase(const CPropertyBase& other)
-        : Template::ObjectImpl<Derived, I, ICloneable>(), m_name(other.m_name), m_value(other.m_value),
-          m_readOnly(other.m_readOnly), m_flags(other.m_flags), m_description(other.m_description)
+        : Template::ObjectImpl<Derived, I, ICloneable, Serialization::Binary::ISerializable>(),
+          m_name(other.m_name), m_value(other.m_value), m_readOnly(other.m_readOnly), m_flags(other.m_flags),
+          m_description(other.m_description)
     {
     }
 
@@ -45,6 +48,16 @@ public:
     Pointer<ICloneable, 1> Clone() override
     {
         return Pointer<ICloneable, 1>(new Derived(static_cast<Derived&>(*this)));
+    }
+
+    // Name, value, read-only flag, flags and description.
+    void Serialize(Pointer<Serialization::Binary::IWriter, 1> writer) override
+    {
+        writer << m_name << m_value << m_readOnly << m_flags << m_description;
+    }
+    void Deserialize(Pointer<Serialization::Binary::IReader, 1> reader) override
+    {
+        reader >> m_name >> m_value >> m_readOnly >> m_flags >> m_description;
     }
 
 protected:
@@ -67,6 +80,18 @@ public:
         : CPropertyBase(std::move(name), std::move(value), readOnly, 0), m_range(std::move(range)),
           m_increment(increment)
     {
+    }
+
+    // The common fields, then the range (an object, or null) and the increment.
+    void Serialize(Pointer<Serialization::Binary::IWriter, 1> writer) override
+    {
+        CPropertyBase::Serialize(writer);
+        writer << m_range << m_increment;
+    }
+    void Deserialize(Pointer<Serialization::Binary::IReader, 1> reader) override
+    {
+        CPropertyBase::Deserialize(reader);
+        reader >> m_range >> m_increment;
     }
 
     Pointer<Math::IRangeD, 0> Range() override { return m_range; }
@@ -101,8 +126,22 @@ using PropertyMap =
 class CExtendedPropertyDictionary
     : public Template::ObjectImpl<
           CExtendedPropertyDictionary,
-          Collections::Template::IValueDictionaryImpl<IExtendedPropertyDictionary, PropertyMap>> {
+          Collections::Template::IValueDictionaryImpl<IExtendedPropertyDictionary, PropertyMap>,
+          Serialization::Binary::ISerializable> {
 public:
+    // The properties as objects, in the order of Keys(); reading adds them
+    // under their own names, without events.
+    void Serialize(Pointer<Serialization::Binary::IWriter, 1> writer) override { writer << Properties(); }
+    void Deserialize(Pointer<Serialization::Binary::IReader, 1> reader) override
+    {
+        std::vector<Pointer<IExtendedProperty, 1>> properties;
+        reader >> properties;
+        PropertyMap read;
+        for (const auto& property : properties)
+            read.insert_or_assign(property->Name(), property);
+        m_map = std::move(read);
+    }
+
     bool GetValue(const LIString& name, Any& value) override
     {
         Pointer<IExtendedProperty, 0> found = Find(name);
@@ -136,6 +175,24 @@ public:
 
     using IValueDictionaryImpl::Add;
 };
+
+// The empty instances that archives are read into.
+Pointer<Interface, 1> NewEmptyProperty()
+{
+    return Pointer<Interface, 1>(
+        static_cast<IExtendedProperty*>(new CExtendedProperty(LIString(), Any(), false, 0)));
+}
+
+Pointer<Interface, 1> NewEmptyScalar()
+{
+    return Pointer<Interface, 1>(
+        static_cast<IExtendedProperty*>(new CScalarExtendedProperty(LIString(), Any(), false, nullptr, 0.0)));
+}
+
+Pointer<Interface, 1> NewEmptyDictionary()
+{
+    return Pointer<Interface, 1>(static_cast<IExtendedPropertyDictionary*>(new CExtendedPropertyDictionary));
+}
 
 Pointer<IExtendedProperty, 1> NewNamedProperty(LIString name, bool readOnly)
 {
@@ -173,6 +230,9 @@ Pointer<IExtendedPropertyDictionary, 1> NewDictionary()
 
 void RegisterExtendedProperties()
 {
+    RegisterSerializable<CExtendedProperty>(&NewEmptyProperty);
+    RegisterSerializable<CScalarExtendedProperty>(&NewEmptyScalar);
+    RegisterSerializable<CExtendedPropertyDictionary>(&NewEmptyDictionary);
     ExtendedProperty::New.Register(L"Extended property", &NewNamedProperty);
     ExtendedProperty::New.Register(L"Extended property", &NewProperty);
     ScalarExtendedProperty::New.Register(L"Scalar extended property", &NewScalar);
