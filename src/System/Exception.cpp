@@ -64,15 +64,11 @@ Pointer<Interface, 1> NewEmpty()
     return Pointer<Interface, 1>(static_cast<IException*>(new C));
 }
 
-// Exceptions are read back from archives by their class names. SetItem, so
-// that a second start-up finds them in place.
+// Exceptions are read back from archives by their class names.
 void RegisterExceptionFactories()
 {
-    auto factories = Serialization::Factories();
-    factories->SetItem(Helper::TypeName(typeid(CException)),
-                       Serialization::Factory(&NewEmpty<CException>, Serialization::OldestVersion));
-    factories->SetItem(Helper::TypeName(typeid(CCancelException)),
-                       Serialization::Factory(&NewEmpty<CCancelException>, Serialization::OldestVersion));
+    Serialization::RegisterClass<CException>(&NewEmpty<CException>);
+    Serialization::RegisterClass<CCancelException>(&NewEmpty<CCancelException>);
 }
 
 const Template::Initializer<::Library> exceptionFactories(&RegisterExceptionFactories, nullptr, 0.2f);

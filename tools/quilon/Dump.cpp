@@ -69,7 +69,8 @@ const std::map<std::wstring, Printer>& Printers()
 {
     using namespace System;
     static const std::map<std::wstring, Printer> printers = {
-        {Helper::TypeName(typeid(bool)), [](const Any& v) { return std::wstring(v.CastTo<bool>() ? L"true" : L"false"); }},
+        {Helper::TypeName(typeid(bool)),
+         [](const Any& v) { return std::wstring(v.CastTo<bool>() ? L"true" : L"false"); }},
         {Helper::TypeName(typeid(char)), [](const Any& v) { return std::to_wstring(int(v.CastTo<char>())); }},
         {Helper::TypeName(typeid(unsigned char)), &Number<unsigned char>},
         {Helper::TypeName(typeid(short)), &Number<short>},
@@ -80,8 +81,10 @@ const std::map<std::wstring, Printer>& Printers()
         {Helper::TypeName(typeid(std::uint64_t)), &Number<std::uint64_t>},
         {Helper::TypeName(typeid(float)), &Number<float>},
         {Helper::TypeName(typeid(double)), &Number<double>},
-        {Helper::TypeName(typeid(std::string)), [](const Any& v) { return Quoted(ToString(v.CastTo<std::string>())); }},
-        {Helper::TypeName(typeid(std::wstring)), [](const Any& v) { return Quoted(v.CastTo<std::wstring>()); }},
+        {Helper::TypeName(typeid(std::string)),
+         [](const Any& v) { return Quoted(ToString(v.CastTo<std::string>())); }},
+        {Helper::TypeName(typeid(std::wstring)),
+         [](const Any& v) { return Quoted(v.CastTo<std::wstring>()); }},
         {Helper::TypeName(typeid(LIString)),
          [](const Any& v) {
              const auto text = v.CastTo<LIString>();
@@ -114,11 +117,8 @@ void DumpFrame(ReaderRef reader, unsigned& values, unsigned& objects)
         name = L"(null object)";
         ++objects;
     } else if (row != rows.end()) {
-        if (reader->Version() < row->second.version)
-            QUILON_RAISE(L"Type '%1%' cannot be read from an archive of version %2% (oldest: %3%)", name,
-                         reader->Version(), row->second.version);
         Any value;
-        row->second.reader(reader, value);
+        ReadFramedValue(reader, name, value);
         const auto printer = Printers().find(name);
         if (value.IsEmpty())
             shown = L"(empty)";
@@ -126,13 +126,8 @@ void DumpFrame(ReaderRef reader, unsigned& values, unsigned& objects)
             shown = printer->second(value);
         ++values;
     } else if (System::Serialization::Factories()->ContainsKey(name)) {
-        // The object's own frame reads the name again, so the object is
-        // read from here on by its factory and Deserialize.
-        const System::Serialization::Factory factory = System::Serialization::Factories()->Item(name);
-        if (reader->Version() < factory.minimumVersion)
-            QUILON_RAISE(L"Class '%1%' cannot be read from an archive of version %2% (oldest: %3%)", name,
-                         reader->Version(), factory.minimumVersion);
-        System::Pointer<ISerializable, 1>(factory())->Deserialize(reader);
+        System::Pointer<System::Interface, 0> object;
+        ReadFramedObject(reader, name, object);
         name = L"object " + name;
         ++objects;
     } else {
@@ -140,14 +135,16 @@ void DumpFrame(ReaderRef reader, unsigned& values, unsigned& objects)
     }
     if (shown.empty())
         shown = L"(" + std::to_wstring(reader->Position() - offset) + L" bytes)";
-    std::printf("%8" PRId64 "  %s  %s\n", offset, System::ToAnsi(name).c_str(), System::ToAnsi(shown).c_str());
+    std::printf("%8" PRId64 "  %s  %s\n", offset, System::ToAnsi(name).c_str(),
+                System::ToAnsi(shown).c_str());
 }
 
 void DumpArchive(const std::wstring& path)
 {
     ReaderRef reader = Reader::New(path);
     std::printf("archive %s\nversion %u, counts on %d bytes, strings %s\n", System::ToAnsi(path).c_str(),
-                reader->Version(), reader->SaveIntAsInt64() ? 8 : 4, reader->SaveStringAsAnsi() ? "narrow" : "UTF-16");
+                reader->Version(), reader->SaveIntAsInt64() ? 8 : 4,
+                reader->SaveStringAsAnsi() ? "narrow" : "UTF-16");
     unsigned values = 0, objects = 0;
     while (reader->Remaining() > 0) {
         DumpFrame(reader, values, objects);

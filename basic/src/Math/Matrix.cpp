@@ -2,7 +2,8 @@
 
 #include "Quilon_/PrivateLibrary.h"
 #include "Quilon_/System/Raise.h"
-#include "System/Serializable.h"
+#include "Quilon_/System/Serialization/Binary/Serializable.h"
+#include "Quilon_/System/Serialization/FactoryDictionary.h"
 
 #include <algorithm>
 
@@ -125,7 +126,7 @@ System::Pointer<System::Interface, 1> NewEmptyMatrix()
 
 void RegisterMatrix()
 {
-    RegisterSerializable<CMatrixD>(&NewEmptyMatrix);
+    System::Serialization::RegisterClass<CMatrixD>(&NewEmptyMatrix);
     Quilon_::Math::MatrixD::New.Register(L"Dense matrix", &NewMatrix);
     Quilon_::Math::MatrixD::New.Register(L"Dense matrix", &NewMatrixOf);
 }

@@ -5,7 +5,8 @@
 #include "Quilon_/PrivateLibrary.h"
 #include "Quilon_/System/Cloneable.h"
 #include "Quilon_/System/ObjectImpl.h"
-#include "System/Serializable.h"
+#include "Quilon_/System/Serialization/Binary/Serializable.h"
+#include "Quilon_/System/Serialization/FactoryDictionary.h"
 
 namespace Quilon_::Basic {
 
@@ -103,9 +104,11 @@ Pointer<System::Interface, 1> NewEmpty()
 
 void RegisterRanges()
 {
-    RegisterSerializable<CRangeOf<IRange, std::int64_t>>(&NewEmpty<CRangeOf<IRange, std::int64_t>, IRange>);
-    RegisterSerializable<CRangeOf<IRangeD, double>>(&NewEmpty<CRangeOf<IRangeD, double>, IRangeD>);
-    RegisterSerializable<CIntervalD>(&NewEmpty<CIntervalD, IIntervalD>);
+    System::Serialization::RegisterClass<CRangeOf<IRange, std::int64_t>>(
+        &NewEmpty<CRangeOf<IRange, std::int64_t>, IRange>);
+    System::Serialization::RegisterClass<CRangeOf<IRangeD, double>>(
+        &NewEmpty<CRangeOf<IRangeD, double>, IRangeD>);
+    System::Serialization::RegisterClass<CIntervalD>(&NewEmpty<CIntervalD, IIntervalD>);
     Range::New.Register(L"Range", &NewEmptyRange<IRange, std::int64_t>);
     Range::New.Register(L"Range", &NewRange<IRange, std::int64_t>);
     RangeD::New.Register(L"Range", &NewEmptyRange<IRangeD, double>);

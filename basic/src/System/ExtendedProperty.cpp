@@ -8,7 +8,8 @@
 #include "Quilon_/System/ExtendedPropertyDictionary.h"
 #include "Quilon_/System/Helper.h"
 #include "Quilon_/System/ObjectImpl.h"
-#include "System/Serializable.h"
+#include "Quilon_/System/Serialization/Binary/Serializable.h"
+#include "Quilon_/System/Serialization/FactoryDictionary.h"
 
 #include <unordered_map>
 
@@ -230,9 +231,9 @@ Pointer<IExtendedPropertyDictionary, 1> NewDictionary()
 
 void RegisterExtendedProperties()
 {
-    RegisterSerializable<CExtendedProperty>(&NewEmptyProperty);
-    RegisterSerializable<CScalarExtendedProperty>(&NewEmptyScalar);
-    RegisterSerializable<CExtendedPropertyDictionary>(&NewEmptyDictionary);
+    System::Serialization::RegisterClass<CExtendedProperty>(&NewEmptyProperty);
+    System::Serialization::RegisterClass<CScalarExtendedProperty>(&NewEmptyScalar);
+    System::Serialization::RegisterClass<CExtendedPropertyDictionary>(&NewEmptyDictionary);
     ExtendedProperty::New.Register(L"Extended property", &NewNamedProperty);
     ExtendedProperty::New.Register(L"Extended property", &NewProperty);
     ScalarExtendedProperty::New.Register(L"Scalar extended property", &NewScalar);

@@ -1,8 +1,8 @@
 #include "Quilon_/System/Serialization/Binary/Functions.h"
 
 #include "Quilon_/System/Helper.h"
-#include "Quilon_/System/Serialization/FactoryDictionary.h"
 #include "Quilon_/System/Raise.h"
+#include "Quilon_/System/Serialization/FactoryDictionary.h"
 #include "Quilon_/System/Threading/CriticalSection.h"
 
 #include <cstdint>
@@ -166,6 +166,11 @@ void ReadFramed(ReaderRef reader, System::Any& value)
     NestingScope scope;
     std::wstring name;
     reader = reader >> name;
+    ReadFramedValue(std::move(reader), name, value);
+}
+
+void ReadFramedValue(ReaderRef reader, const std::wstring& name, System::Any& value)
+{
     const Functions& row = RowOf(name);
     if (reader->Version() < row.version)
         QUILON_RAISE(L"Type '%1%' cannot be read from an archive of version %2% (oldest: %3%)", name,
@@ -186,7 +191,8 @@ void WriteFramedObject(WriterRef writer, System::Pointer<System::Interface, 0> o
     const std::wstring name = System::Helper::TypeName(typeid(instance));
     System::Pointer<ISerializable, 0> serializable(object);
     if (!serializable)
-        QUILON_RAISE(L"An object of class '%1%' cannot be written to an archive: it is not serializable", name);
+        QUILON_RAISE(L"An object of class '%1%' cannot be written to an archive: it is not serializable",
+                     name);
     writer = writer << name;
     serializable->Serialize(writer);
 }
@@ -196,6 +202,12 @@ void ReadFramedObject(ReaderRef reader, System::Pointer<System::Interface, 0>& o
     NestingScope scope;
     std::wstring name;
     reader = reader >> name;
+    ReadFramedObject(std::move(reader), name, object);
+}
+
+void ReadFramedObject(ReaderRef reader, const std::wstring& name,
+                      System::Pointer<System::Interface, 0>& object)
+{
     if (name.empty()) {
         object = System::Pointer<System::Interface, 0>();
         return;
@@ -210,7 +222,8 @@ void ReadFramedObject(ReaderRef reader, System::Pointer<System::Interface, 0>& o
     System::Pointer<System::Interface, 1> made = factory();
     System::Pointer<ISerializable, 0> serializable(made);
     if (!serializable)
-        QUILON_RAISE(L"An object of class '%1%' cannot be read from an archive: it is not serializable", name);
+        QUILON_RAISE(L"An object of class '%1%' cannot be read from an archive: it is not serializable",
+                     name);
     serializable->Deserialize(reader);
     object = made;
 }

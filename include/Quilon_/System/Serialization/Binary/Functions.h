@@ -64,6 +64,9 @@ void Register(unsigned short version = OldestVersion)
 // The type's name, then the row's record; raises for a type without a row.
 QUILON_API void WriteFramed(WriterRef writer, System::Any& value);
 QUILON_API void ReadFramed(ReaderRef reader, System::Any& value);
+// The rest of a value's frame once its name has been read, for tools that
+// look at the name first.
+QUILON_API void ReadFramedValue(ReaderRef reader, const std::wstring& name, System::Any& value);
 
 // The name of the object's most derived class (Helper::TypeName), then what
 // its Serialize writes; a null object is an empty name alone. Raises for an
@@ -73,5 +76,8 @@ QUILON_API void WriteFramedObject(WriterRef writer, System::Pointer<System::Inte
 // and its Deserialize. Refuses a class unknown to this process, and an
 // archive older than the factory's minimum version.
 QUILON_API void ReadFramedObject(ReaderRef reader, System::Pointer<System::Interface, 0>& object);
+// The rest of an object's frame once its name has been read.
+QUILON_API void ReadFramedObject(ReaderRef reader, const std::wstring& name,
+                                 System::Pointer<System::Interface, 0>& object);
 
 } // namespace Quilon_::System::Serialization::Binary
