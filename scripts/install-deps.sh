@@ -17,6 +17,7 @@ packages=(
     libgmock-dev
     libbenchmark-dev
     clang
+    ccache
     libclang-rt-14-dev
 )
 

@@ -1,11 +1,6 @@
 #include "Quilon_/Math/ComplexFacet.h"
 
-namespace Quilon_::System {
+#include "Quilon_/System/EnumText.h"
 
-std::wstring ToString(Math::ComplexFacetEnum facet)
-{
-    static const wchar_t* const names[] = {L"cfReal", L"cfImaginary", L"cfMagnitude", L"cfPhase"};
-    return facet >= Math::cfReal && facet <= Math::cfPhase ? names[facet] : L"";
-}
-
-} // namespace Quilon_::System
+QUILON_DEFINE_ENUM_TEXT(Math::ComplexFacetEnum, Empty, {Math::cfReal, L"cfReal"}, {Math::cfImaginary, L"cfImaginary"},
+                        {Math::cfMagnitude, L"cfMagnitude"}, {Math::cfPhase, L"cfPhase"})

@@ -1,5 +1,6 @@
 #include "Quilon_/System/DateTime.h"
 
+#include "Quilon_/System/EnumText.h"
 #include "Quilon_/System/Raise.h"
 #include "Quilon_/System/String.h"
 
@@ -64,13 +65,6 @@ std::int64_t TicksFromTimespec(const timespec& time)
 }
 
 } // namespace
-
-std::wstring ToString(DayOfWeekEnum day)
-{
-    static const wchar_t* const names[] = {L"dwSunday",   L"dwMonday", L"dwTuesday", L"dwWednesday",
-                                           L"dwThursday", L"dwFriday", L"dwSaturday"};
-    return day >= dwSunday && day <= dwSaturday ? names[day] : L"";
-}
 
 DateTime::DateTime() : DateTime(Now()) {}
 
@@ -195,3 +189,8 @@ Any ToAny(const DateTime& value)
 }
 
 } // namespace Quilon_::System
+
+QUILON_DEFINE_ENUM_TEXT(System::DayOfWeekEnum, Empty, {System::dwSunday, L"dwSunday"},
+                        {System::dwMonday, L"dwMonday"}, {System::dwTuesday, L"dwTuesday"},
+                        {System::dwWednesday, L"dwWednesday"}, {System::dwThursday, L"dwThursday"},
+                        {System::dwFriday, L"dwFriday"}, {System::dwSaturday, L"dwSaturday"})
