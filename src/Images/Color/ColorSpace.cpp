@@ -1,0 +1,7 @@
+#include "Quilon_/Images/Color/ColorSpace.h"
+
+namespace Quilon_::Images::Color {
+
+QUILON_DEFINE_INTERFACE_TYPE(IColorSpace, L"Quilon_::Images::Color::IColorSpace", System::Interface)
+
+} // namespace Quilon_::Images::Color
