@@ -128,18 +128,23 @@ TEST(LibraryStartup, LoadsTheFilesLibrariesInOrderReportsFailuresAndFinalizesInR
     });
 }
 
+TEST(LibraryStartup, TheDefaultFileBesideTheCoreNamesTheReferenceLibrary)
+{
+    InChildProcess([] {
+        std::filesystem::path name = Library::InitializationFileName();
+        EXPECT_EQ(name.filename(), "Quilon.xml");
+        EXPECT_TRUE(std::filesystem::equivalent(name.parent_path(), QUILON_TEST_LIB_DIR));
+        Library::Initialize();
+        EXPECT_EQ(Library::Libraries(), (Strings{L"libQuilon_.Basic.so"}));
+        EXPECT_TRUE(IsLoaded(L"libQuilon_.Basic.so"));
+    });
+}
+
 TEST(LibraryStartup, AMissingOrMalformedFileStartsWithoutLibrariesAndIsReadOnce)
 {
-    // The default file, beside the core library, does not exist in the build.
-    for (const std::wstring& file : {std::wstring(), fixtures + L"/Malformed.xml"}) {
+    for (const std::wstring& file : {fixtures + L"/Missing.xml", fixtures + L"/Malformed.xml"}) {
         InChildProcess([&] {
-            if (file.empty()) {
-                std::filesystem::path name = Library::InitializationFileName();
-                EXPECT_EQ(name.filename(), "Quilon.xml");
-                EXPECT_TRUE(std::filesystem::equivalent(name.parent_path(), QUILON_TEST_LIB_DIR));
-            } else {
-                Library::SetInitializationFileName(file);
-            }
+            Library::SetInitializationFileName(file);
             Library::Initialize();
             EXPECT_TRUE(Library::Libraries().empty());
             EXPECT_EQ(InitializationState(), 4);
