@@ -18,6 +18,8 @@ int Version(const Arguments& arguments);
 // factory that the demo plug-in filled, then registers implementations on an
 // operator of its own to show the fall-back from one to the next.
 int Demo(const Arguments& arguments);
+// The demo's geometry and bitmap work, through the reference library.
+void RunGeometryWork();
 // quilon info [--init FILE]: starts the library and prints what it loaded
 // and each failure; fails when a library did.
 int Info(const Arguments& arguments);

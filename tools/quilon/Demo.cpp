@@ -163,6 +163,7 @@ int Demo(const Arguments& arguments)
 
     RunPluginWork();
     RunReferenceLibraryWork();
+    RunGeometryWork();
     RunRootDemo();
 
     const int status = failures.empty() ? 0 : 1;
