@@ -85,10 +85,11 @@ Pointer<Interface, 1> NewEmptyNote()
     return Pointer<Interface, 1>(new CNote);
 }
 
-// Notes can be read from archives of version 4100 on.
+// Notes can be read from archives of version 4100 on. Registered by hand,
+// under the full name, as a library without RegisterClass would.
 void RegisterNote()
 {
-    Serialization::Factories()->Add(Helper::TypeName(typeid(CNote)),
+    Serialization::Factories()->Add(L"Quilon_::Tests::Archives::CNote",
                                     Serialization::Factory(&NewEmptyNote, 4100));
 }
 
@@ -247,6 +248,7 @@ TEST_F(ArchiveTest, ObjectsAreMadeByTheirFactoriesAndRefusedFromOlderArchives)
         failures << Exception::New(L"broken", L"F()", L"System/X.cpp", 7)
                  << Pointer<IException, 1>(CancelException::New(L"stopped", L"G()", L"Y.cpp", 9));
         Bytes failureBytes = BytesOf(failures->Contents());
+        EXPECT_TRUE(Serialization::Factories()->ContainsKey(L"Quilon_::System::CException"));
         Pointer<IException, 0> broken, stopped;
         ReaderOver(failureBytes) >> broken >> stopped;
         ASSERT_TRUE(broken && stopped);
@@ -262,12 +264,13 @@ TEST_F(ArchiveTest, ObjectsAreMadeByTheirFactoriesAndRefusedFromOlderArchives)
         old[4] = 4099 & 0xFF;
         old[5] = 4099 >> 8;
         EXPECT_EQ(RaisedMessage([&] { ReaderOver(old) >> note; }),
-                  L"Class '" + Helper::TypeName(typeid(CNote)) +
-                      L"' cannot be read from an archive of version 4099 (oldest: 4100)");
+                  L"Class 'Quilon_::Tests::Archives::CNote' cannot be read from an archive of version 4099 "
+                  L"(oldest: 4100)");
 
-        EXPECT_EQ(RaisedMessage([&] { Writer::New(true, false) << Pointer<INote, 1>(new CPlain); }),
-                  L"An object of class '" + Helper::TypeName(typeid(CPlain)) +
-                      L"' cannot be written to an archive: it is not serializable");
+        EXPECT_EQ(
+            RaisedMessage([&] { Writer::New(true, false) << Pointer<INote, 1>(new CPlain); }),
+            L"An object of class 'Quilon_::Tests::Archives::CPlain' cannot be written to an archive: it "
+            L"is not serializable");
         WriterRef stranger = Writer::New(true, false);
         stranger << std::wstring(L"Nobody::CNothing");
         Bytes strangerBytes = BytesOf(stranger->Contents());
