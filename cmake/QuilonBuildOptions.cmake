@@ -56,15 +56,14 @@ add_compile_options(
     -fmacro-prefix-map=${PROJECT_SOURCE_DIR}/include/Quilon_/=
     -fmacro-prefix-map=${PROJECT_SOURCE_DIR}/src/=)
 
-# ccache, when installed, keeps compiled objects between builds and between the
-# build folders (plain, sanitizers, fuzzing): paths are taken relative to the
-# source tree, so build/ and build-asan/ hit the same entries where their flags
-# agree. QUILON_CCACHE=OFF builds without it.
+# ccache, when installed, keeps compiled objects between builds of the same
+# tree. Paths stay absolute: with ccache's base directory the compiler would
+# see relative source paths, which the prefix maps above do not shorten, and
+# __FILE__ would no longer read as the source stem. QUILON_CCACHE=OFF builds
+# without it.
 option(QUILON_CCACHE "Compile through ccache when it is installed" ON)
 find_program(QUILON_CCACHE_PROGRAM ccache)
 if(QUILON_CCACHE AND QUILON_CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-    set(_quilon_launcher ${CMAKE_COMMAND} -E env CCACHE_BASEDIR=${PROJECT_SOURCE_DIR} CCACHE_NOHASHDIR=1
-        ${QUILON_CCACHE_PROGRAM})
-    set(CMAKE_CXX_COMPILER_LAUNCHER ${_quilon_launcher})
-    set(CMAKE_C_COMPILER_LAUNCHER ${_quilon_launcher})
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${QUILON_CCACHE_PROGRAM})
+    set(CMAKE_C_COMPILER_LAUNCHER ${QUILON_CCACHE_PROGRAM})
 endif()
