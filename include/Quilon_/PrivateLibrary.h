@@ -18,6 +18,7 @@
 #pragma once
 
 #include "Quilon_/Library.h"
+#include "Quilon_/Startup.h"
 #include "Quilon_/System/Initializer.h"
 
 // Hidden whatever the library's own build settings, so that the queues of
@@ -36,7 +37,14 @@ public:
     }
 
     static void Initialize() { Quilon_::System::Initializer::RunInitializers<Library>(); }
-    static void Finalize() { Quilon_::System::Initializer::RunFinalizers<Library>(nullptr); }
+    // As Quilon_::Library::Finalize, without progress: once a library has
+    // finalised its parts, the process counts as finalised, so finalisers
+    // of lower rank no longer destroy objects that a last release frees.
+    static void Finalize()
+    {
+        Quilon_::System::Initializer::RunFinalizers<Library>(nullptr);
+        Quilon_::System::SetInitializationState(-1);
+    }
 };
 
 namespace Quilon_::System::Initializer::Detail {

@@ -9,11 +9,15 @@ QUILON_DEFINE_INTERFACE_TYPE(ICloneable, L"Quilon_::System::ICloneable", Interfa
 QUILON_DEFINE_INTERFACE_TYPE(Collections::ICloneable, L"Quilon_::System::Collections::ICloneable", Interface)
 
 namespace {
+// Clone() answers with a reference: a null answer is refused as a null
+// assigned to a reference of the cloning interface.
 template <class C>
 Interface* CloneThrough(C* cloneable)
 {
     Pointer<C, 1> clone = cloneable->Clone();
     Interface* result = clone.Get();
+    if (!result)
+        Detail::RaiseNullAssignment(C::GetType(), QUILON_HERE);
     result->AddReference();
     return result;
 }

@@ -122,7 +122,8 @@ DateTime DateTime::LastModificationTime(const std::wstring& path)
 {
     const int file = ::open(ToAnsi(path).c_str(), O_RDONLY | O_CLOEXEC);
     struct stat status {};
-    const bool read = file != -1 && ::fstat(file, &status) == 0;
+    // A directory opens for reading here, but is no file.
+    const bool read = file != -1 && ::fstat(file, &status) == 0 && !S_ISDIR(status.st_mode);
     if (file != -1)
         ::close(file);
     if (!read)

@@ -7,7 +7,7 @@ namespace Quilon_::System {
 
 using Detail::EventLock;
 
-EventTargetBase::~EventTargetBase() = default;
+EventTargetBase::~EventTargetBase() noexcept(false) = default;
 
 EventTarget::EventTarget(const EventTarget& other) : EventTargetBase(other)
 {

@@ -46,23 +46,23 @@ void Create(const Pointer<Interface, 0>& object, const LIString& key, const Any&
 
 } // namespace
 
-Pointer<IExtendedProperty, 0> Find(Pointer<Interface, 0> object, const std::wstring& key)
+Pointer<IExtendedProperty, 0> Find(Pointer<Interface, 1> object, const std::wstring& key)
 {
     return Find(std::move(object), LIString(key));
 }
 
-Pointer<IExtendedProperty, 0> Find(Pointer<Interface, 0> object, const LIString& key)
+Pointer<IExtendedProperty, 0> Find(Pointer<Interface, 1> object, const LIString& key)
 {
     Pointer<IExtendedPropertyDictionary, 0> dictionary = DictionaryOf(object);
     return dictionary ? dictionary->Find(key) : nullptr;
 }
 
-Pointer<IExtendedProperty, 1> Property(Pointer<Interface, 0> object, const std::wstring& key)
+Pointer<IExtendedProperty, 1> Property(Pointer<Interface, 1> object, const std::wstring& key)
 {
     return Property(std::move(object), LIString(key));
 }
 
-Pointer<IExtendedProperty, 1> Property(Pointer<Interface, 0> object, const LIString& key)
+Pointer<IExtendedProperty, 1> Property(Pointer<Interface, 1> object, const LIString& key)
 {
     Pointer<IExtendedProperty, 0> found = Find(std::move(object), key);
     if (!found)
@@ -70,12 +70,12 @@ Pointer<IExtendedProperty, 1> Property(Pointer<Interface, 0> object, const LIStr
     return Pointer<IExtendedProperty, 1>(found);
 }
 
-Any Value(Pointer<Interface, 0> object, const std::wstring& key)
+Any Value(Pointer<Interface, 1> object, const std::wstring& key)
 {
     return Value(std::move(object), LIString(key));
 }
 
-Any Value(Pointer<Interface, 0> object, const LIString& key)
+Any Value(Pointer<Interface, 1> object, const LIString& key)
 {
     Any value;
     if (Pointer<IExtendedProperty, 0> found = Find(std::move(object), key))
@@ -83,7 +83,7 @@ Any Value(Pointer<Interface, 0> object, const LIString& key)
     return value;
 }
 
-void SetValue(Pointer<Interface, 0> object, const std::wstring& key, const Any& value)
+void SetValue(Pointer<Interface, 1> object, const std::wstring& key, const Any& value)
 {
     Pointer<IExtendedProperty, 0> found = Find(std::move(object), key);
     if (!found)
@@ -91,7 +91,7 @@ void SetValue(Pointer<Interface, 0> object, const std::wstring& key, const Any& 
     found->SetValue(value);
 }
 
-void SetValue(Pointer<Interface, 0> object, const LIString& key, const Any& value)
+void SetValue(Pointer<Interface, 1> object, const LIString& key, const Any& value)
 {
     if (Pointer<IExtendedProperty, 0> found = Find(object, key))
         found->SetValue(value);
@@ -99,7 +99,7 @@ void SetValue(Pointer<Interface, 0> object, const LIString& key, const Any& valu
         Create(object, key, value, nullptr);
 }
 
-void SetValue(Pointer<Interface, 0> object, const LIString& key, const Any& value, unsigned char flags)
+void SetValue(Pointer<Interface, 1> object, const LIString& key, const Any& value, unsigned char flags)
 {
     if (Pointer<IExtendedProperty, 0> found = Find(object, key)) {
         found->SetFlags(flags);
@@ -109,18 +109,18 @@ void SetValue(Pointer<Interface, 0> object, const LIString& key, const Any& valu
     }
 }
 
-void Remove(Pointer<Interface, 0> object, const std::wstring& key)
+void Remove(Pointer<Interface, 1> object, const std::wstring& key)
 {
     Remove(std::move(object), LIString(key));
 }
 
-void Remove(Pointer<Interface, 0> object, const LIString& key)
+void Remove(Pointer<Interface, 1> object, const LIString& key)
 {
     if (Find(object, key))
         DictionaryOf(object)->Remove(key);
 }
 
-LIString Name(Pointer<Interface, 0> object)
+LIString Name(Pointer<Interface, 1> object)
 {
     const Any value = Value(std::move(object), ExtendedPropertyKeys::Name());
     if (value.TypeInfo() == typeid(LIString))
@@ -130,12 +130,12 @@ LIString Name(Pointer<Interface, 0> object)
     return LIString(std::wstring(), true);
 }
 
-void SetName(Pointer<Interface, 0> object, const LIString& name)
+void SetName(Pointer<Interface, 1> object, const LIString& name)
 {
     SetValue(std::move(object), ExtendedPropertyKeys::Name(), ToAny(name), epfPersistent | epfHidden);
 }
 
-Nullable<System::DateTime> DateTime(Pointer<Interface, 0> object)
+Nullable<System::DateTime> DateTime(Pointer<Interface, 1> object)
 {
     const Any value = Value(std::move(object), ExtendedPropertyKeys::DateTime());
     if (value.TypeInfo() == typeid(System::DateTime))
@@ -143,12 +143,12 @@ Nullable<System::DateTime> DateTime(Pointer<Interface, 0> object)
     return {};
 }
 
-void SetDateTime(Pointer<Interface, 0> object, const System::DateTime& dateTime)
+void SetDateTime(Pointer<Interface, 1> object, const System::DateTime& dateTime)
 {
     SetValue(std::move(object), ExtendedPropertyKeys::DateTime(), ToAny(dateTime));
 }
 
-void CopyCopiableExtendedProperties(Pointer<Interface, 0> source, Pointer<Interface, 0> destination)
+void CopyCopiableExtendedProperties(Pointer<Interface, 1> source, Pointer<Interface, 1> destination)
 {
     if (source == destination)
         return;

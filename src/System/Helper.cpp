@@ -145,9 +145,10 @@ std::vector<std::wstring> Tokens(const std::wstring& text)
     return tokens;
 }
 
-// Drops the prefix words and the root namespace's qualifier, and writes the
-// 64-bit integers by the words that every platform uses.
-void ReplaceWords(std::wstring& text)
+// Drops the prefix words and, unless `keepRoot`, the root namespace's
+// qualifier, and writes the 64-bit integers by the words that every
+// platform uses.
+void ReplaceWords(std::wstring& text, bool keepRoot)
 {
     std::vector<std::wstring> tokens = Tokens(text);
     auto at = [&](std::size_t i) { return i < tokens.size() ? tokens[i] : std::wstring(); };
@@ -160,7 +161,7 @@ void ReplaceWords(std::wstring& text)
         const std::wstring& token = tokens[i];
         if ((token == L"class" || token == L"struct" || token == L"enum") && at(i + 1) == L" ") {
             i += 2;
-        } else if (token == L"Quilon_" && at(i + 1) == L":" && at(i + 2) == L":") {
+        } else if (!keepRoot && token == L"Quilon_" && at(i + 1) == L":" && at(i + 2) == L":") {
             i += 3;
         } else if (pair(i, L"unsigned", L"long")) {
             result += L"unsigned __int64";
@@ -234,19 +235,28 @@ void Helper::DoubleToAny(double value, Any& target)
         QUILON_RAISE(L"Any must contain a scalar value");
 }
 
-std::wstring Helper::TypeName(const std::wstring& name)
+namespace {
+
+std::wstring Presentable(const std::wstring& name, bool keepRoot)
 {
     std::wstring result = name;
     ReplaceAll(result, L", ", L",");
     ReplaceAll(result, L"> >", L">>");
     ReplaceAll(result, L"std::__cxx11::", L"std::");
-    ReplaceWords(result);
+    ReplaceWords(result, keepRoot);
     ReplaceAll(result, L"std::basic_string<char,std::char_traits<char>,std::allocator<char>>", L"std::string");
     ReplaceAll(result, L"std::basic_string<wchar_t,std::char_traits<wchar_t>,std::allocator<wchar_t>>",
                L"std::wstring");
     for (const wchar_t* defaulted : {L",std::allocator<", L",std::char_traits<", L",std::less<"})
         RemoveArguments(result, defaulted);
     return result;
+}
+
+} // namespace
+
+std::wstring Helper::TypeName(const std::wstring& name)
+{
+    return Presentable(name, false);
 }
 
 std::wstring Helper::TypeName(const std::string& name)
@@ -257,6 +267,11 @@ std::wstring Helper::TypeName(const std::string& name)
 std::wstring Helper::TypeName(const std::type_info& type)
 {
     return TypeName(std::string(type.name()));
+}
+
+std::wstring Detail::QualifiedTypeName(const std::type_info& type)
+{
+    return Presentable(Detail::ToStringLenient(Demangle(type.name())), true);
 }
 
 std::int32_t Helper::NarrowToInt32(std::int64_t value)

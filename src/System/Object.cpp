@@ -24,7 +24,7 @@ CriticalSection& ObjectCriticalSection()
     return *section;
 }
 
-Object::~Object() = default;
+Object::~Object() noexcept(false) = default;
 
 EventTarget* Object::AsEventTarget()
 {

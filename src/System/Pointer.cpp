@@ -33,13 +33,15 @@ void RaiseCloneableNotSupported(const Type& type, Interface* source, SourceLocat
           RuntimeClassName(typeid(*source)));
 }
 
-Interface* CloneThroughICloneable(Interface* source)
+Interface* CloneThroughICloneable(Interface* source, const Type& type)
 {
     ICloneable* cloneable = InterfaceCast<ICloneable>(source);
     if (!cloneable)
         return nullptr;
     Pointer<ICloneable, 1> clone = cloneable->Clone();
     Interface* result = clone.Get();
+    if (!result)
+        RaiseNullAssignment(type, QUILON_HERE);
     result->AddReference();
     return result;
 }

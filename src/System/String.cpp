@@ -4,6 +4,7 @@
 #include "Quilon_/System/Raise.h"
 
 #include <cerrno>
+#include <new>
 
 namespace Quilon_::System {
 
@@ -93,32 +94,48 @@ void EncodeOne(char32_t value, std::string& out)
     }
 }
 
+// Runs a conversion; when it cannot get memory for its result the failure
+// is the library's own "Out of memory", not the language's bad_alloc.
+template <class Convert>
+auto RaisingOutOfMemory(Convert convert)
+{
+    try {
+        return convert();
+    } catch (const std::bad_alloc&) {
+        QUILON_RAISE(L"Out of memory");
+    }
+}
+
 } // namespace
 
 std::wstring ToString(const std::string& text)
 {
-    std::wstring result;
-    result.reserve(text.size());
-    for (std::size_t at = 0; at < text.size();) {
-        char32_t value;
-        if (!DecodeOne(text, at, value))
-            QUILON_RAISE(L"MultiByteToWideChar failed (error code = %1%)", EILSEQ);
-        result += static_cast<wchar_t>(value);
-    }
-    return result;
+    return RaisingOutOfMemory([&] {
+        std::wstring result;
+        result.reserve(text.size());
+        for (std::size_t at = 0; at < text.size();) {
+            char32_t value;
+            if (!DecodeOne(text, at, value))
+                QUILON_RAISE(L"MultiByteToWideChar failed (error code = %1%)", EILSEQ);
+            result += static_cast<wchar_t>(value);
+        }
+        return result;
+    });
 }
 
 std::string ToAnsi(const std::wstring& text)
 {
-    std::string result;
-    result.reserve(text.size());
-    for (wchar_t character : text) {
-        char32_t value = static_cast<char32_t>(character);
-        if (!IsScalar(value))
-            QUILON_RAISE(L"WideCharToMultiByte failed (error code = %1%)", EILSEQ);
-        EncodeOne(value, result);
-    }
-    return result;
+    return RaisingOutOfMemory([&] {
+        std::string result;
+        result.reserve(text.size());
+        for (wchar_t character : text) {
+            char32_t value = static_cast<char32_t>(character);
+            if (!IsScalar(value))
+                QUILON_RAISE(L"WideCharToMultiByte failed (error code = %1%)", EILSEQ);
+            EncodeOne(value, result);
+        }
+        return result;
+    });
 }
 
 std::wstring Detail::ToStringLenient(const std::string& text)

@@ -10,6 +10,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 namespace Quilon_::Tests::ExtendedProperties {
 
 using namespace Quilon_::System;
@@ -38,6 +40,22 @@ TEST_F(ExtendedPropertiesTest, AnObjectWithoutPropertiesReadsEmptyAndRefusesWrit
     EXPECT_EQ(Properties::Name(plain), LIString(L"", true));
     EXPECT_FALSE(Properties::DateTime(plain).HasValue());
     Properties::Remove(plain, L"Owner"); // nothing to remove, nothing raised
+
+    // No object at all is refused by every function, reading ones included.
+    const Pointer<Interface, 0> none;
+    const std::function<void()> calls[] = {
+        [&] { Properties::Find(none, L"Owner"); },
+        [&] { Properties::Value(none, L"Owner"); },
+        [&] { Properties::SetValue(none, L"Owner", ToAny(1)); },
+        [&] { Properties::SetValue(none, LIString(L"Owner"), ToAny(1)); },
+        [&] { Properties::Remove(none, L"Owner"); },
+        [&] { Properties::Name(none); },
+        [&] { Properties::DateTime(none); },
+        [&] { Properties::CopyCopiableExtendedProperties(none, none); },
+    };
+    for (const auto& call : calls)
+        EXPECT_EQ(RaisedMessage(call),
+                  L"Pointer <Quilon_::System::Interface> : attempt to assign 0 to a reference");
 }
 
 TEST_F(ExtendedPropertiesTest, LIStringKeysCreateAndEveryKeyFormFindsByText)

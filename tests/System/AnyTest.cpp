@@ -39,6 +39,24 @@ TEST_F(AnyCast, ValuesComeOutAsTheirOwnTypeOnly)
     EXPECT_EQ(boxed.CastTo<Any>().CastTo<int>(), 42);
 }
 
+// long long and std::int64_t (long here) are two spellings of "__int64":
+// boxed either way, a value is one integer type to every reader.
+TEST_F(AnyCast, EverySpellingOfASixtyFourBitIntegerIsThatInteger)
+{
+    const Any values[] = {ToAny(-5LL), ToAny(5ULL), ToAny(std::vector<long long>{1, -2})};
+    for (const Any& value : values)
+        EXPECT_EQ(Helper::TypeName(value.TypeInfo()).find(L"long"), std::wstring::npos);
+    EXPECT_TRUE(values[0] == ToAny(std::int64_t(-5)));
+    EXPECT_EQ(values[0].CastTo<std::int64_t>(), -5);
+    EXPECT_EQ(values[0].CastTo<long long>(), -5);
+    EXPECT_EQ(ToAny(std::int64_t(7)).CastTo<long long>(), 7);
+    EXPECT_EQ(values[1].CastTo<std::uint64_t>(), 5u);
+    EXPECT_TRUE(Helper::IsInteger(values[0]) && Helper::IsScalar(values[1]));
+    EXPECT_EQ(Helper::ScalarValue(values[0]), -5.0);
+    EXPECT_EQ(values[2].CastTo<std::vector<std::int64_t>>(), (std::vector<std::int64_t>{1, -2}));
+    EXPECT_EQ(values[2].CastTo<std::vector<long long>>(), (std::vector<long long>{1, -2}));
+}
+
 TEST_F(AnyCast, EnumerationsReadBackAsThemselvesOnly)
 {
     Any shade = ToAny(sDark);

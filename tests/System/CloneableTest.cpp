@@ -1,4 +1,5 @@
-// CloneVariable: which cloning interface it uses, and what it does without one.
+// CloneVariable and value references: which cloning interface is used, and
+// what happens without one or with a clone that is null.
 #include "Quilon_/System/Cloneable.h"
 #include "Quilon_/Library.h"
 
@@ -57,6 +58,25 @@ TEST(CloneVariableTest, SourceWithoutEitherInterfaceIsRefused)
     EXPECT_EQ(RaisedMessage([&] { CloneVariable<IThing>(Pointer<IThing, 0>(new CThing), target); }),
               L"Class 'Quilon_::Tests::Kernel::IThing' does not implement ICloneable");
     EXPECT_FALSE(target);
+    Library::ErrorManager()->TakeLastError();
+}
+
+// A Clone() that answers null, which its Pointer<ICloneable> result lets
+// through.
+class CNullCloner : public System::Template::ObjectImpl<CNullCloner, IThing, System::ICloneable> {
+public:
+    int Value() override { return 0; }
+    Pointer<System::ICloneable, 1> Clone() override { return {}; }
+};
+
+TEST(CloneVariableTest, ANullCloneIsRefusedAsANullReference)
+{
+    Pointer<IThing, 0> target;
+    EXPECT_EQ(RaisedMessage([&] { CloneVariable<IThing>(Pointer<IThing, 0>(new CNullCloner), target); }),
+              L"Pointer <Quilon_::System::ICloneable> : attempt to assign 0 to a reference");
+    Pointer<IThing, 2> value(new CNullCloner); // adopted, not cloned
+    EXPECT_EQ(RaisedMessage([&] { Pointer<IThing, 2> copy(value); }),
+              L"Pointer <Quilon_::Tests::Kernel::IThing> : attempt to assign 0 to a reference");
     Library::ErrorManager()->TakeLastError();
 }
 

@@ -2,13 +2,16 @@
 // concurrent use.
 #include "Quilon_/System/GlobalVariable.h"
 #include "Quilon_/Library.h"
+#include "Quilon_/Startup.h"
 
 #include "../Support/KernelDoubles.h"
 #include "../Support/Raised.h"
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <future>
+#include <thread>
 #include <vector>
 
 namespace Quilon_::Tests::GlobalVariableTests {
@@ -103,6 +106,43 @@ TEST(GlobalVariableTest, ConcurrentThreadsReadAndWriteTheirOwnEntries)
     for (std::future<bool>& result : results)
         EXPECT_TRUE(result.get());
     EXPECT_EQ(value.Get()->Value(), 0);
+}
+
+// A process-wide value is read without the general critical section:
+// another thread that holds the section does not hold up the readers, and
+// values replaced while others read are never seen torn or freed.
+TEST(GlobalVariableTest, ProcessWideValuesAreReadWhileAnotherThreadHoldsTheGeneralSection)
+{
+    GlobalVariable<bool> flag(true);
+    GlobalVariable<Pointer<IThing>> object(Pointer<IThing>(new CThing(nullptr, 1)));
+    std::promise<void> entered, release;
+    std::thread holder([&] {
+        System::EnterGeneralCriticalSection();
+        entered.set_value();
+        release.get_future().wait();
+        System::LeaveGeneralCriticalSection();
+    });
+    entered.get_future().wait();
+    // Replacing the object would wait: its deletion takes the section.
+    auto read = std::async(std::launch::async, [&] {
+        flag.Set(false);
+        return !flag.Get() && object.Get()->Value() == 1;
+    });
+    const bool readInTime = read.wait_for(std::chrono::seconds(10)) == std::future_status::ready;
+    release.set_value();
+    holder.join();
+    EXPECT_TRUE(readInTime) << "a reader waited for the general critical section";
+    EXPECT_TRUE(read.get());
+
+    auto writer = std::async(std::launch::async, [&] {
+        for (int i = 0; i < 2000; ++i)
+            object.Set(Pointer<IThing>(new CThing(nullptr, i)));
+    });
+    for (int i = 0; i < 2000; ++i)
+        EXPECT_GE(object.Get()->Value(), 0);
+    writer.get();
+    object.Clear();
+    EXPECT_EQ(object.Get()->Value(), 1) << "the initial value is back";
 }
 
 } // namespace Quilon_::Tests::GlobalVariableTests

@@ -29,12 +29,17 @@ constexpr std::int64_t ParkedCount = 0xFFFFFFF;
 
 // Writes each step of its deletion into `log`: "clear" for its event
 // target, "notify" for its destruction events, "destroy" for the
-// destructor. Clearing throws `failClear` when set.
+// destructor. Clearing runs `failClear` and the destructor `failDestroy`,
+// which may throw.
 class CObserved : public System::Template::ObjectImpl<CObserved, IThing, System::IDestructionEvents>,
                   private System::EventTarget {
 public:
     explicit CObserved(Steps& log) : m_log(log) {}
-    ~CObserved() override { m_log.push_back("destroy"); }
+    ~CObserved() override
+    {
+        m_log.push_back("destroy");
+        failDestroy();
+    }
 
     int Value() override { return 0; }
     System::EventTarget* AsEventTarget() override { return this; }
@@ -46,7 +51,7 @@ public:
     }
     System::DestroyedEvent& Destroyed() override { return m_destroyed; }
 
-    std::function<void()> onNotify = [] {}, failClear = [] {};
+    std::function<void()> onNotify = [] {}, failClear = [] {}, failDestroy = [] {};
 
 private:
     void Add(System::EventHandlerBase*) override {}
@@ -141,6 +146,19 @@ TEST(DeletionTest, FailuresAreTracedUnderAllocationAndNeverReachTheCaller)
         Object* object = observed;
         UnsafeDeallocator::Delete(object);
         EXPECT_EQ(log.back(), "destroy");
+
+        // A destructor that throws ends the deletion, not the process, and
+        // the pointer is null all the same.
+        trace->traced.clear();
+        log.clear();
+        observed = new CObserved(log);
+        observed->failDestroy = failure;
+        object = observed;
+        UnsafeDeallocator::Delete(object);
+        EXPECT_EQ(object, nullptr);
+        EXPECT_EQ(log, (Steps{"clear", "notify", "destroy"}));
+        EXPECT_EQ(trace->traced,
+                  (std::vector<std::pair<std::wstring, std::wstring>>{{message, L"Allocation"}}));
     }
     Library::SetTraceManager(nullptr);
     Library::ErrorManager()->TakeLastError();

@@ -2,11 +2,16 @@
 #include "Quilon_/System/String.h"
 #include "Quilon_/Library.h"
 
-#include "../Support/ScopedTranslator.h"
+#include "../Support/InChildProcess.h"
 #include "../Support/Raised.h"
+#include "../Support/ScopedTranslator.h"
 
 #include <gtest/gtest.h>
 
+#include <sys/resource.h>
+#include <unistd.h>
+
+#include <cstdio>
 #include <string>
 
 namespace Quilon_::Tests::StringTests {
@@ -43,6 +48,30 @@ TEST_F(StringConversion, WideToUtf8RefusesValuesThatAreNoUnicode)
         EXPECT_EQ(RaisedMessage([&] { ToAnsi(std::wstring(L"ok") + value); }),
                   L"WideCharToMultiByte failed (error code = 84)");
     }
+}
+
+// Run out of address space in a child: the wide copy of 64 MiB of text
+// needs 256 MiB, and the child may take 128 MiB more than it holds.
+TEST_F(StringConversion, AConversionWithoutMemoryForItsResultRaisesOutOfMemory)
+{
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+    GTEST_SKIP() << "the sanitizers' allocators end the process instead of failing";
+#endif
+    InChildProcess([] {
+        const std::string text(std::size_t(64) << 20, 'a');
+        unsigned long pages = 0;
+        if (std::FILE* statm = std::fopen("/proc/self/statm", "r")) {
+            if (std::fscanf(statm, "%lu", &pages) != 1)
+                pages = 0;
+            std::fclose(statm);
+        }
+        ASSERT_GT(pages, 0u);
+        rlimit limit{};
+        ASSERT_EQ(::getrlimit(RLIMIT_AS, &limit), 0);
+        limit.rlim_cur = pages * ::sysconf(_SC_PAGESIZE) + (rlim_t(128) << 20);
+        ASSERT_EQ(::setrlimit(RLIMIT_AS, &limit), 0);
+        EXPECT_EQ(RaisedMessage([&] { ToString(text); }), L"Out of memory");
+    });
 }
 
 TEST(LIString, LocalizableTextIsTranslatedOrShownByItsDefaultText)

@@ -19,8 +19,8 @@
 
 #include "Quilon_/System/Pointer.h"
 
-#include <cstdint>
 #include <concepts>
+#include <cstdint>
 #include <cstring>
 #include <string>
 #include <type_traits>
@@ -57,13 +57,54 @@ QUILON_API bool SameType(const std::type_info& a, const std::type_info& b) noexc
 template <class T>
 struct IsPointer : std::false_type {};
 template <class I, int N>
-struct IsPointer<Template::Pointer<I, N>> : std::true_type {};
+struct IsPointer<Template::Pointer<I, N>> : std::true_type {
+};
+
+// The type under which a value of type T is boxed. The 64-bit integers
+// that are not std::int64_t or std::uint64_t themselves (long long here, long
+// elsewhere) are the same numbers, and present themselves by the same name:
+// they are boxed as std::int64_t or std::uint64_t, alone and in vectors, so
+// that one holder stands for each name and every reader of an Any (Helper,
+// archives, CastTo of either spelling) sees one type.
+template <class T>
+struct Canonical {
+    using Type = T;
+};
+template <class T>
+requires(std::is_integral_v<T> && sizeof(T) == 8 && !std::is_same_v<T, std::int64_t> &&
+         !std::is_same_v<T, std::uint64_t>) struct Canonical<T> {
+    using Type = std::conditional_t<std::is_signed_v<T>, std::int64_t, std::uint64_t>;
+};
+template <class T>
+struct Canonical<std::vector<T>> {
+    using Type = std::vector<typename Canonical<T>::Type>;
+};
+template <class T>
+using CanonicalType = typename Canonical<T>::Type;
+
+template <class T>
+struct IsVector : std::false_type {
+};
+template <class T>
+struct IsVector<std::vector<T>> : std::true_type {
+};
+
+// `value` as type To, where To and From differ at most in the spelling of
+// their 64-bit integers.
+template <class To, class From>
+To Respell(const From& value)
+{
+    if constexpr (IsVector<To>::value && IsVector<From>::value && !std::is_same_v<To, From>)
+        return To(value.begin(), value.end());
+    else
+        return static_cast<To>(value);
+}
 
 // How a value of type T is presented and stored.
 template <class T, class = void>
 struct AnyTraits {
-    using Presented = T;
-    using Stored = T;
+    using Presented = CanonicalType<T>;
+    using Stored = CanonicalType<T>;
 };
 template <class E>
 struct AnyTraits<E, std::enable_if_t<std::is_enum_v<E>>> {
@@ -144,10 +185,11 @@ public:
             return *this;
         } else {
             using Stored = typename Detail::AnyTraits<T>::Stored;
+            using Boxed = Detail::CanonicalType<T>;
             if (!m_holder)
                 Detail::RaiseEmptyAnyCast(typeid(T));
-            if (const void* value = m_holder->ValuePointer(typeid(T)))
-                return static_cast<T>(*static_cast<const Stored*>(value));
+            if (const void* value = m_holder->ValuePointer(typeid(Boxed)))
+                return Detail::Respell<T>(*static_cast<const Stored*>(value));
             if constexpr (Detail::IsPointer<T>::value) {
                 if (const void* value = m_holder->ValuePointer(typeid(Template::Pointer<Interface, 0>)))
                     return T(*static_cast<const Template::Pointer<Interface, 0>*>(value));
@@ -169,7 +211,7 @@ Any Box(const T& value)
 {
     using Traits = AnyTraits<T>;
     return Any(new AnyHolder<typename Traits::Presented, typename Traits::Stored>(
-        static_cast<typename Traits::Stored>(value)));
+        Respell<typename Traits::Stored>(value)));
 }
 } // namespace Detail
 

@@ -26,7 +26,9 @@ class EventHandlerBase;
 
 class QUILON_API EventTargetBase {
 public:
-    virtual ~EventTargetBase();
+    // Not noexcept: concrete objects derive from it beside Object, whose
+    // destructor may throw (see UnsafeDeallocator).
+    virtual ~EventTargetBase() noexcept(false);
     virtual void Add(EventHandlerBase* handler) = 0;
     virtual void Remove(EventHandlerBase* handler) = 0;
     virtual void ClearEventHandlers() = 0;

@@ -23,6 +23,11 @@
 // the general critical section. The entry of a thread that has ended stays
 // until the next Clear.
 //
+// A process-wide value takes no part in that: it is read and written
+// without the general critical section, so that reading a setting never
+// waits for a thread that holds the section (a deletion, an event being
+// fired). See Detail::ProcessValue for how it stays safe.
+//
 // The settings trio X(), SetX(value), ClearX() of a Globals namespace is
 // written with two macros, one in the header and one in the source:
 //
@@ -36,7 +41,10 @@
 #include "Quilon_/System/Threading/CriticalSection.h"
 #include "Quilon_/System/Threading/ThreadId.h"
 
+#include <atomic>
 #include <cstdint>
+#include <mutex>
+#include <type_traits>
 #include <unordered_map>
 #include <utility>
 
@@ -80,6 +88,58 @@ struct ThreadEntry<Template::Pointer<I, N>> {
     }
 };
 
+template <class T, class = void>
+struct IsLockFree : std::false_type {
+};
+template <class T>
+struct IsLockFree<T, std::enable_if_t<std::is_trivially_copyable_v<T>>>
+    : std::bool_constant<std::atomic<T>::is_always_lock_free> {
+};
+
+// The one value of a process-wide setting. A value that fits an atomic
+// word (the flags and numbers) is one: a read is a single load, and a
+// write a single exchange, never torn and seen whole by every thread;
+// acquire and release order it with what the writing thread did before.
+template <class T, bool = IsLockFree<T>::value>
+class ProcessValue {
+public:
+    explicit ProcessValue(T value) : m_value(value) {}
+    T Load() const { return m_value.load(std::memory_order_acquire); }
+    T Exchange(T value) { return m_value.exchange(value, std::memory_order_acq_rel); }
+
+private:
+    std::atomic<T> m_value;
+};
+
+// Any other value (an object held by interface, a string) cannot be copied
+// in one step: a copy taken while another thread replaces the value would
+// read it half made, or take a reference on an object that is being
+// released. Those copies are made under a lock of the variable's own, held
+// for the copy alone: copying a held Pointer of policy 0 or 1 takes a
+// reference above 0, which runs no code of the object and takes no other
+// lock, and the old value is released after the lock is left. So the lock is always free at
+// once unless another thread is copying this very value.
+template <class T>
+class ProcessValue<T, false> {
+public:
+    explicit ProcessValue(T value) : m_value(std::move(value)) {}
+    T Load() const
+    {
+        std::lock_guard<std::mutex> lock(m_lock);
+        return m_value;
+    }
+    T Exchange(T value)
+    {
+        std::lock_guard<std::mutex> lock(m_lock);
+        std::swap(m_value, value);
+        return value;
+    }
+
+private:
+    mutable std::mutex m_lock;
+    T m_value;
+};
+
 } // namespace Detail
 
 // T must be default-constructible and copyable.
@@ -87,7 +147,8 @@ template <class T>
 class GlobalVariable {
 public:
     explicit GlobalVariable(T initial = T(), GlobalVariableScopeEnum scope = gvsProcess)
-        : m_initial(initial), m_scope(scope), m_default(std::move(initial))
+        : m_initial(initial), m_scope(scope), m_process(scope == gvsProcess ? initial : T()),
+          m_default(scope == gvsProcess ? T() : std::move(initial))
     {
     }
     GlobalVariable(const GlobalVariable&) = delete;
@@ -97,34 +158,39 @@ public:
 
     T Get()
     {
-        if (m_scope == gvsProcess) {
-            Threading::GeneralCriticalSectionScope lock;
-            return m_default;
-        }
+        if (m_scope == gvsProcess)
+            return m_process.Load();
         return ThreadValue(Threading::CurrentThreadId());
     }
 
     void Set(T value)
     {
+        if (m_scope == gvsProcess) {
+            // The old value is released here, after the exchange.
+            m_process.Exchange(std::move(value));
+            return;
+        }
         const std::uint32_t thread = Threading::CurrentThreadId();
         Threading::GeneralCriticalSectionScope lock;
         // Old values leave with `value` and `previousDefault`, after the lock.
         T previousDefault;
-        if (m_scope == gvsProcess || (m_scope == gvsPerThreadFromMain && thread == Threading::MainThreadId())) {
+        if (m_scope == gvsPerThreadFromMain && thread == Threading::MainThreadId()) {
             previousDefault = value;
             std::swap(m_default, previousDefault);
             ++m_defaultVersion;
         }
-        if (m_scope != gvsProcess) {
-            // try_emplace leaves `value` alone when the entry exists.
-            auto [entry, made] = m_entries.try_emplace(thread, std::move(value));
-            if (!made)
-                std::swap(entry->second, value);
-        }
+        // try_emplace leaves `value` alone when the entry exists.
+        auto [entry, made] = m_entries.try_emplace(thread, std::move(value));
+        if (!made)
+            std::swap(entry->second, value);
     }
 
     void Clear()
     {
+        if (m_scope == gvsProcess) {
+            m_process.Exchange(m_initial);
+            return;
+        }
         Entries dropped;
         T previous = m_initial;
         Threading::GeneralCriticalSectionScope lock;
@@ -162,6 +228,9 @@ private:
 
     const T m_initial;
     const GlobalVariableScopeEnum m_scope;
+    // The value of a process-wide variable; unused per thread.
+    Detail::ProcessValue<T> m_process;
+    // The default of the per-thread entries; unused process-wide.
     T m_default;
     std::uint64_t m_defaultVersion = 0;
     Entries m_entries;

@@ -70,6 +70,13 @@ QUILON_API std::uint32_t NarrowToUInt32(std::uint64_t value);
 } // namespace Quilon_::System::Helper
 
 namespace Quilon_::System::Detail {
+// The class name as the type dictionary spells it: the presentable name with
+// the root namespace kept ("Quilon_::System::CException"). Factories() and
+// the object frames of archives are keyed by it.
+QUILON_API std::wstring QualifiedTypeName(const std::type_info& type);
+} // namespace Quilon_::System::Detail
+
+namespace Quilon_::System::Detail {
 // The run-time class name of an object, demangled as the language gives it.
 QUILON_API std::wstring RuntimeClassName(const std::type_info& type);
 } // namespace Quilon_::System::Detail

@@ -41,8 +41,9 @@ protected:
     Interface(const Interface&) = default;
     Interface& operator=(const Interface&) { return *this; }
     // Objects are destroyed through Object's virtual destructor, never
-    // through an interface.
-    ~Interface() = default;
+    // through an interface. Not noexcept, like Object's, so that a concrete
+    // class may let its destructor throw (see UnsafeDeallocator).
+    ~Interface() noexcept(false) = default;
 };
 
 namespace Detail {

@@ -65,7 +65,10 @@ public:
         count.store(other.count.load(std::memory_order_relaxed), std::memory_order_relaxed);
         return *this;
     }
-    virtual ~Object();
+    // Destructors may throw: UnsafeDeallocator::Delete catches and traces
+    // what they throw, so a failing destructor costs a trace line, not the
+    // process. Every concrete destructor inherits this specification.
+    virtual ~Object() noexcept(false);
 
     virtual EventTarget* AsEventTarget();
     virtual IDestructionEvents* AsIDestructionEvents();

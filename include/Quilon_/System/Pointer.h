@@ -36,8 +36,10 @@ struct SourceLocation {
 [[noreturn]] QUILON_API void RaiseInterfaceNotSupported(const Type& type, Interface* source, SourceLocation where);
 [[noreturn]] QUILON_API void RaiseCloneableNotSupported(const Type& type, Interface* source, SourceLocation where);
 // Asks `source` for a clone through ICloneable; the result carries one
-// reference for the caller, or is null when the source is not cloneable.
-QUILON_API Interface* CloneThroughICloneable(Interface* source);
+// reference for the caller, or is null when the source is not cloneable. A
+// Clone() that gives null is refused as a null assigned to a reference of
+// `type`, the interface that the clone was to be held by.
+QUILON_API Interface* CloneThroughICloneable(Interface* source, const Type& type);
 
 template <class T>
 Interface* AsInterface(T* value) noexcept
@@ -102,7 +104,7 @@ struct Policy<2> : Policy<1> {
     template <class T>
     static void Assign(T*& target, T* source)
     {
-        Interface* clone = Detail::CloneThroughICloneable(static_cast<Interface*>(source));
+        Interface* clone = Detail::CloneThroughICloneable(static_cast<Interface*>(source), T::GetType());
         if (!clone)
             Detail::RaiseCloneableNotSupported(T::GetType(), source, QUILON_HERE);
         T* result = Detail::InterfaceCast<T>(clone);

@@ -45,8 +45,10 @@ public:
         return *this;
     }
     // The target goes first, then the handler, in one step: the object may
-    // fire Destroyed on another thread meanwhile.
-    ~WeakReference() override
+    // fire Destroyed on another thread meanwhile. A value, not an object:
+    // its destructor does not throw, so it may be boxed and kept in
+    // containers.
+    ~WeakReference() noexcept override
     {
         System::Detail::EventLock lock;
         m_target = nullptr;

@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -211,7 +212,7 @@ TEST_F(CollectionTest, DuplicatesAreRefusedBeforeAnyEventUnlessAllowed)
     EXPECT_EQ(view->IndexOf(c), -1);
 }
 
-TEST_F(CollectionTest, WithEventsDisabledNothingFiresButHooksOwnersAndChecksRemain)
+TEST_F(CollectionTest, DisabledEventsBeforeOrDuringAChangeFireNothingMoreButHooksAndChecksRemain)
 {
     listener->ListenTo(*things);
     Pointer<IDisableEvents, 1> switchable(things);
@@ -229,6 +230,21 @@ TEST_F(CollectionTest, WithEventsDisabledNothingFiresButHooksOwnersAndChecksRema
     EXPECT_EQ(member->Owner(), nullptr);
     EXPECT_TRUE(listener->calls.empty());
     EXPECT_EQ(things->hooks, (std::vector<std::string>{"added 1", "added 4", "removed 1", "removed 4"}));
+
+    // Switched off by a before-listener, a change goes on without its after-event.
+    Fill();
+    things->hooks.clear();
+    listener->onCall = [&](const std::string&, Args&) { switchable->SetEventsDisabled(true); };
+    const std::function<void()> changes[] = {[&] { view->Add(c); }, [&] { view->SetItem(0, held); },
+                                             [&] { view->RemoveAt(0); }, [&] { view->Clear(); }};
+    for (const auto& change : changes) {
+        switchable->SetEventsDisabled(false);
+        change();
+    }
+    EXPECT_EQ(listener->calls, (std::vector<std::string>{"ItemInserting 0", "ItemModifying 2", "ItemRemoving 1",
+                                                         "Clearing 3", "Clearing 4"}));
+    EXPECT_EQ(things->hooks,
+              (std::vector<std::string>{"added 3", "removed 1", "added 4", "removed 4", "removed 2", "removed 3"}));
 }
 
 TEST_F(CollectionTest, AnItemKeepsItsFirstOwnerAndLosesItOnAnyRemoval)

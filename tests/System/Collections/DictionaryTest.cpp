@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -95,10 +96,25 @@ TEST_F(DictionaryTest, VetoesUseTheDictionaryTextsWithTheBlankBeforeTheColon)
     EXPECT_EQ(dictionary->Item(L"a"), 1);
 
     // Disabled events ask nobody.
-    Pointer<IDisableEvents, 1>(counts)->SetEventsDisabled(true);
+    Pointer<IDisableEvents, 1> switchable(counts);
+    switchable->SetEventsDisabled(true);
     dictionary->SetItem(L"a", 5);
     EXPECT_EQ(dictionary->Item(L"a"), 5);
     EXPECT_EQ(listener->calls.size(), 4u);
+
+    // Switched off by the before-listener, a change has no after-event.
+    listener->calls.clear();
+    listener->onCall = [&](const std::string&, Args&) { switchable->SetEventsDisabled(true); };
+    const std::function<void()> changes[] = {[&] { dictionary->Add(L"b", 1); },
+                                             [&] { dictionary->SetItem(L"b", 2); },
+                                             [&] { dictionary->Remove(L"a"); }, [&] { dictionary->Clear(); }};
+    for (const auto& change : changes) {
+        switchable->SetEventsDisabled(false);
+        change();
+    }
+    EXPECT_EQ(listener->calls, (std::vector<std::string>{"ItemInserting 0", "ItemModifying 2",
+                                                         "ItemRemoving 1", "Clearing 3", "Clearing 4"}));
+    EXPECT_EQ(dictionary->Count(), 0);
 }
 
 TEST_F(DictionaryTest, ReadOnlyIsTestedFirstExceptWhenClearingAnEmptyDictionary)

@@ -8,6 +8,7 @@
 #include "../../Support/KernelDoubles.h"
 #include "../../Support/Raised.h"
 #include "../../Support/RuleDoubles.h"
+#include "../../Support/ScopedTranslator.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -201,9 +202,13 @@ TEST_F(FunctionRulesTest, PostRulesRunAfterSuccessOnlyAndRefusalsMoveOnAndAreWri
     EXPECT_THAT(debugLines[0],
                 StartsWith(L"Implementation 'Fast' failed. Reason: 'Argument #1 must be even' (function: Posted - "));
 
-    // Alone, a post failure is what the caller gets.
+    // Alone, a post failure is what the caller gets, raised like any
+    // message: translated.
     op.SetNextRunImplementation(2);
     EXPECT_EQ(RaisedMessage([&] { op(4); }), L"Result out of range");
+    ScopedTranslator german(L"Result out of range", L"Ergebnis außerhalb des Bereichs");
+    op.SetNextRunImplementation(2);
+    EXPECT_EQ(RaisedMessage([&] { op(4); }), L"Ergebnis außerhalb des Bereichs");
 }
 
 TEST_F(FunctionRulesTest, IgnoringFunctionRulesRunsOnlyOwnRules)

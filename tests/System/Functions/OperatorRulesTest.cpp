@@ -130,6 +130,32 @@ TEST_F(OperatorRules, SilencedArgumentsAreHeardAgainAfterSuccessFailureAndNestin
     EXPECT_TRUE(off->EventsDisabled()) << "left as it was found";
 }
 
+bool eventsOffInTheCall = false;
+
+void Touch(Pointer<IDisableEvents>& target)
+{
+    eventsOffInTheCall = target->EventsDisabled();
+}
+
+// An output reference that the implementation leaves in place stays
+// silenced, and wrapped, until the post rules have run.
+TEST_F(OperatorRules, AnOutputReferenceStaysSilencedThroughThePostRules)
+{
+    Functions::Template::Function<void (*)(Pointer<IDisableEvents>&)> touch(&Touch);
+    touch.SetRules(rtMake, Chain({DisableEvents::New(0)}));
+    auto seenByPost = std::make_shared<std::vector<bool>>();
+    touch.SetRules(rtPostExecute, Tests::Rules({[seenByPost](std::vector<Any>& arguments, RuleFailures&) {
+                       seenByPost->push_back(
+                           arguments[0].CastTo<Pointer<IDisableEvents>>()->EventsDisabled());
+                       return true;
+                   }}));
+    Pointer<IDisableEvents> target = Switch();
+    touch(target);
+    EXPECT_TRUE(eventsOffInTheCall);
+    EXPECT_THAT(*seenByPost, ElementsAre(true));
+    EXPECT_FALSE(target->EventsDisabled());
+}
+
 TEST_F(OperatorRules, IgnoringFunctionRulesStillRunsTheImplementationsOwn)
 {
     echo->SetRules(rtCheck, Chain({Implements(1, events)}));

@@ -187,7 +187,7 @@ public:
         for (std::size_t i = 0; i < this->m_items.size(); ++i)
             this->OnItemRemoved(this->m_items[i]);
         ClearImpl();
-        if (args) {
+        if (args && !this->m_eventsDisabled) {
             args->SetEventType(cetCleared);
             this->Cleared().Fire(args);
         }
@@ -337,9 +337,11 @@ private:
             Detail::RaiseMessage((this->*denied)(args));
     }
 
-    static void FireAfter(CollectionEvent& event, const Args& args, CollectionEventTypeEnum type)
+    // The flag is looked at again: a before-listener or a hook may have
+    // switched events off during the change.
+    void FireAfter(CollectionEvent& event, const Args& args, CollectionEventTypeEnum type)
     {
-        if (!args)
+        if (!args || this->m_eventsDisabled)
             return;
         args->SetEventType(type);
         event.Fire(args);

@@ -178,10 +178,12 @@ private:
             Detail::RaiseDictionaryMessage((this->*denied)(args));
     }
 
-    // The args keep their values: dictionaries do not release them.
-    static void FireAfter(CollectionEvent& event, const Args& args, CollectionEventTypeEnum type)
+    // The args keep their values: dictionaries do not release them. The
+    // flag is looked at again: a before-listener may have switched events
+    // off during the change.
+    void FireAfter(CollectionEvent& event, const Args& args, CollectionEventTypeEnum type)
     {
-        if (!args)
+        if (!args || m_eventsDisabled)
             return;
         args->SetEventType(type);
         event.Fire(args);

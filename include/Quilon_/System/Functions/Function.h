@@ -21,6 +21,7 @@
 #include "Quilon_/System/String.h"
 
 #include <algorithm>
+#include <array>
 #include <atomic>
 #include <cstdint>
 #include <exception>
@@ -385,10 +386,11 @@ public:
         bool implementationFailed = false;
 
     private:
+        // By the raising sequence, so that the text is translated like any
+        // literal message.
         [[noreturn]] static void RaisePostExecutionFailure(const std::wstring& text)
         {
-            System::Detail::Throw(System::Detail::MakeReported(
-                System::Detail::Formatter(text, ToString(QUILON_FUNCTION), ToString(__FILE__), __LINE__)));
+            System::Detail::Raise(QUILON_FUNCTION, __FILE__, __LINE__, text.c_str());
         }
     };
 
@@ -458,16 +460,37 @@ private:
                             Detail::ResultOf<R>& result, std::index_sequence<I...>, A&... arguments)
     {
         std::tuple<Detail::Unboxed<A>...> values(Detail::Unbox<Detail::Unboxed<A>>(boxed[I], arguments)...);
+        [[maybe_unused]] const std::array<const Interface*, sizeof...(A)> before{
+            OutputObject<A>(std::get<I>(values))...};
         result.Call(
             [&]() -> R { return implementation.function(Detail::PassOn<A>(std::get<I>(values), true)...); });
-        (StoreOutput<A>(std::get<I>(values), arguments, boxed[I]), ...);
+        (StoreOutput<A>(std::get<I>(values), arguments, boxed[I], before[I]), ...);
     }
 
+    // The object that an output reference parameter held before the call;
+    // null for other parameters.
+    template <class Parameter, class Value>
+    static const Interface* OutputObject(const Value& value)
+    {
+        if constexpr (Detail::IsOutput<Parameter> && System::Detail::IsPointer<Value>::value)
+            return System::Detail::AsInterface(value.Get());
+        else
+            return nullptr;
+    }
+
+    // An output goes back to the caller, and into its box for the post
+    // rules. An object that the implementation left in place keeps its box:
+    // the box may hold the wrapper that keeps the object's events off, and
+    // must go on holding it until the boxes go at the end of the call.
     template <class Parameter, class Value, class Argument>
-    static void StoreOutput(const Value& value, Argument& argument, Any& box)
+    static void StoreOutput(const Value& value, Argument& argument, Any& box, const Interface* before)
     {
         if constexpr (Detail::IsOutput<Parameter>) {
             argument = value;
+            if constexpr (System::Detail::IsPointer<Value>::value) {
+                if (before && System::Detail::AsInterface(value.Get()) == before)
+                    return;
+            }
             box = ToAny(value);
         }
     }

@@ -36,15 +36,15 @@ extern QUILON_API Functions::Template::Function<Pointer<IFactoryDictionary, 1> (
 QUILON_API Pointer<IFactoryDictionary, 1> Factories();
 
 // Registers class C for reading from archives, under the name by which
-// archives know it (Helper::TypeName of the class): `newEmpty` makes the
-// instance that is then read into. SetItem, so that a second start-up
-// finds the entry in place.
+// archives know it (its full name, System::Detail::QualifiedTypeName):
+// `newEmpty` makes the instance that is then read into. SetItem, so that a
+// second start-up finds the entry in place.
 //
 //   Serialization::RegisterClass<CMatrixD>(&NewEmptyMatrix);
 template <class C>
 void RegisterClass(Pointer<Interface, 1> (*newEmpty)(), unsigned short minimumVersion = OldestVersion)
 {
-    Factories()->SetItem(Helper::TypeName(typeid(C)), Factory(newEmpty, minimumVersion));
+    Factories()->SetItem(System::Detail::QualifiedTypeName(typeid(C)), Factory(newEmpty, minimumVersion));
 }
 
 } // namespace Serialization

@@ -178,9 +178,9 @@ void ReadFramedValue(ReaderRef reader, const std::wstring& name, System::Any& va
     row.reader(reader, value);
 }
 
-// An object is found again by the name of its most derived class, which is
-// the name under which the library that holds the class registers its
-// factory: Helper::TypeName(typeid(CClass)).
+// An object is found again by the full name of its most derived class,
+// which is the name under which the library that holds the class registers
+// its factory: Detail::QualifiedTypeName(typeid(CClass)).
 void WriteFramedObject(WriterRef writer, System::Pointer<System::Interface, 0> object)
 {
     if (!object) {
@@ -188,7 +188,7 @@ void WriteFramedObject(WriterRef writer, System::Pointer<System::Interface, 0> o
         return;
     }
     System::Interface& instance = *object.Get();
-    const std::wstring name = System::Helper::TypeName(typeid(instance));
+    const std::wstring name = System::Detail::QualifiedTypeName(typeid(instance));
     System::Pointer<ISerializable, 0> serializable(object);
     if (!serializable)
         QUILON_RAISE(L"An object of class '%1%' cannot be written to an archive: it is not serializable",

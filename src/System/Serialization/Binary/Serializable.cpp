@@ -331,8 +331,11 @@ ReaderRef operator>>(ReaderRef reader, System::Type& value)
     unsigned char kind = 0;
     std::wstring name;
     reader = reader >> kind >> name;
-    if (name.empty())
+    if (name.empty()) {
+        // The empty Type was written: it replaces what the variable held.
+        value = System::Type();
         return reader;
+    }
     auto types = System::Type::Types();
     if (types->ContainsKey(name))
         value = types->Item(name);

@@ -68,9 +68,9 @@ QUILON_API void ReadFramed(ReaderRef reader, System::Any& value);
 // look at the name first.
 QUILON_API void ReadFramedValue(ReaderRef reader, const std::wstring& name, System::Any& value);
 
-// The name of the object's most derived class (Helper::TypeName), then what
-// its Serialize writes; a null object is an empty name alone. Raises for an
-// object that is not ISerializable.
+// The full name of the object's most derived class (Detail::QualifiedTypeName,
+// the root namespace kept), then what its Serialize writes; a null object is
+// an empty name alone. Raises for an object that is not ISerializable.
 QUILON_API void WriteFramedObject(WriterRef writer, System::Pointer<System::Interface, 0> object);
 // The name, the factory registered under it in Factories(), a new instance
 // and its Deserialize. Refuses a class unknown to this process, and an
