@@ -1,5 +1,7 @@
 // The library's managers: the ones set are used, and a reset brings back the default.
 #include "Quilon_/Library.h"
+// The whole public surface compiles in one translation unit.
+#include "Quilon_/Quilon_.h"
 #include "Quilon_/System/Raise.h"
 
 #include "../Support/ScopedTranslator.h"
