@@ -69,15 +69,18 @@ void Register()
     Plugin::ListedToo.SetRules(chains);
 }
 
-// The chains go while the library still destroys objects: after shut-down,
-// releasing them would leave them undestroyed.
+// The chains go while the library still destroys objects: each library's
+// own queue ends in the shut-down state, after which releasing them would
+// leave them undestroyed. So they go from the global queue, ranked above the
+// libraries' own entries (0.7), whose finalisers run later.
 void Unregister()
 {
     Plugin::Listed.SetRules(RuleCollections{});
     Plugin::ListedToo.SetRules(RuleCollections{});
 }
 
-const Quilon_::System::Template::Initializer<::Library> registration(&Register, &Unregister, 0.5f);
+const Quilon_::System::Template::Initializer<::Library> registration(&Register, nullptr, 0.5f);
+const Quilon_::System::Template::Initializer<Quilon_::Library> release(nullptr, &Unregister, 0.95f);
 
 } // namespace
 
