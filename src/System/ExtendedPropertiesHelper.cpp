@@ -26,9 +26,13 @@ Pointer<IExtendedPropertyDictionary, 0> DictionaryOf(const Pointer<Interface, 0>
 Pointer<IExtendedPropertyDictionary, 1> DictionaryForWriting(const Pointer<Interface, 0>& object)
 {
     Pointer<IExtendedPropertyDictionary, 0> dictionary = DictionaryOf(object);
-    if (!dictionary)
+    if (!dictionary) {
+        // The dynamic type, read from a plain pointer: typeid of a call would
+        // evaluate the call.
+        const Interface* target = object.Get();
         QUILON_RAISE(L"Object should implement IExtendedPropertiesContainer ('%1%')",
-                     object ? Helper::TypeName(typeid(*object.Get())) : Helper::TypeName(typeid(Interface)));
+                     target ? Helper::TypeName(typeid(*target)) : Helper::TypeName(typeid(Interface)));
+    }
     return Pointer<IExtendedPropertyDictionary, 1>(dictionary);
 }
 
