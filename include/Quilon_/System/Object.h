@@ -67,7 +67,7 @@ public:
     }
     // Destructors may throw: UnsafeDeallocator::Delete catches and traces
     // what they throw, so a failing destructor costs a trace line, not the
-    // process. Every concrete destructor inherits this specification.
+    // process. Every concrete destructor inherits noexcept(false) from here.
     virtual ~Object() noexcept(false);
 
     virtual EventTarget* AsEventTarget();
