@@ -5,6 +5,7 @@
 #include "Quilon_/System/Equatable.h"
 
 #include "../Support/BasicLibrary.h"
+#include "../Support/CoordinateValues.h"
 #include "../Support/InChildProcess.h"
 #include "../Support/Raised.h"
 
@@ -15,15 +16,6 @@ namespace Quilon_::Tests::GeometryBox {
 using namespace Quilon_::Geometry;
 using System::Ref;
 using Int = std::int64_t;
-
-template <class I>
-std::vector<typename I::ValueType> ValuesOf(const Ref<I>& coordinates)
-{
-    std::vector<typename I::ValueType> values;
-    for (Int i = 0; i < coordinates->AxisCount(); ++i)
-        values.push_back(coordinates->Value(i));
-    return values;
-}
 
 TEST(Box, PredicatesHonourTheToleranceAtTheBoundary)
 {

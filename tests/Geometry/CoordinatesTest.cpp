@@ -6,6 +6,7 @@
 #include "Quilon_/System/Equatable.h"
 
 #include "../Support/BasicLibrary.h"
+#include "../Support/CoordinateValues.h"
 #include "../Support/InChildProcess.h"
 #include "../Support/Raised.h"
 
@@ -18,15 +19,6 @@ namespace Quilon_::Tests::GeometryCoordinates {
 using namespace Quilon_::Geometry;
 using System::Ref;
 using Int = std::int64_t;
-
-template <class I>
-std::vector<typename I::ValueType> ValuesOf(const Ref<I>& coordinates)
-{
-    std::vector<typename I::ValueType> values;
-    for (Int i = 0; i < coordinates->AxisCount(); ++i)
-        values.push_back(coordinates->Value(i));
-    return values;
-}
 
 TEST(Coordinates, FunctionsFailUntilALibraryRegistersThem)
 {

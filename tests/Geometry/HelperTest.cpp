@@ -3,6 +3,7 @@
 #include "Quilon_/Geometry/Helper.h"
 
 #include "../Support/BasicLibrary.h"
+#include "../Support/CoordinateValues.h"
 #include "../Support/InChildProcess.h"
 #include "../Support/Raised.h"
 
@@ -13,15 +14,6 @@ namespace Quilon_::Tests::GeometryHelper {
 using namespace Quilon_::Geometry;
 using System::Ref;
 using Int = std::int64_t;
-
-template <class I>
-std::vector<typename I::ValueType> ValuesOf(const Ref<I>& coordinates)
-{
-    std::vector<typename I::ValueType> values;
-    for (Int i = 0; i < coordinates->AxisCount(); ++i)
-        values.push_back(coordinates->Value(i));
-    return values;
-}
 
 template <class B>
 void ExpectBox(const Ref<B>& box, const std::vector<double>& lower, const std::vector<double>& upper)
