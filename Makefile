@@ -74,9 +74,10 @@ tsan:
 
 # The archive reader under libFuzzer, AddressSanitizer and UBSan, from a seed
 # corpus that the writer produces; new inputs are kept in $(FUZZ_DIR)/corpus.
+# Only the fuzz targets and the libraries they load are built there.
 fuzz-build:
 	CXX=$(CLANGXX) $(call configure,$(FUZZ_DIR),-DQUILON_FUZZ=ON -DQUILON_BUILD_TESTS=OFF -DQUILON_BUILD_BENCH=OFF)
-	$(call compile,$(FUZZ_DIR))
+	$(call compile,$(FUZZ_DIR)) --target ArchiveReaderFuzzer ArchiveSeedCorpus
 
 fuzz: fuzz-build
 	$(FUZZ_DIR)/bin/ArchiveSeedCorpus $(FUZZ_DIR)/corpus

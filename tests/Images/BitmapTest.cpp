@@ -158,11 +158,16 @@ TEST(BitmapBasic, ReshapeKeepsCommonSamplesAndPadFillsTheRest)
         bitmap->Reshape(New(5, 3, Axes::aXY), bitmap->Format(), Padding());
         EXPECT_TRUE(bitmap->Memory() == before);
 
-        // Another data type keeps no sample.
+        // Another data type converts the kept values; they saturate on the
+        // way back to a narrower type.
         Pointer<IFormat, 1> words = UniformFormat::New(StorageOrder::New(L"XY"));
         words->SetDataType(System::ntUInt16);
-        bitmap->Reshape(New(2, 1, Axes::aXY), words, Padding(ptConstant, System::ToAny(5)));
-        EXPECT_EQ(BitmapAccessor::New(bitmap)->Value(New(1, 0, Axes::aXY)).CastTo<std::uint16_t>(), 5);
+        bitmap->Reshape(New(6, 1, Axes::aXY), words, Padding(ptConstant, System::ToAny(300)));
+        Pointer<IBitmapAccessor, 1> accessor = BitmapAccessor::New(bitmap);
+        EXPECT_EQ(accessor->Value(New(1, 0, Axes::aXY)).CastTo<std::uint16_t>(), 2);
+        EXPECT_EQ(accessor->Value(New(5, 0, Axes::aXY)).CastTo<std::uint16_t>(), 300);
+        bitmap->Reshape(New(6, 1, Axes::aXY), UniformFormat::New(StorageOrder::New(L"XY")), Padding());
+        EXPECT_EQ(Samples(bitmap), (std::vector<int>{1, 2, 3, 2, 1, 255}));
     });
 }
 

@@ -20,6 +20,8 @@ int Version(const Arguments& arguments);
 int Demo(const Arguments& arguments);
 // The demo's geometry and bitmap work, through the reference library.
 void RunGeometryWork();
+// Images, their categories and the make rules, units and gestures.
+void RunImageWork();
 // quilon info [--init FILE]: starts the library and prints what it loaded
 // and each failure; fails when a library did.
 int Info(const Arguments& arguments);

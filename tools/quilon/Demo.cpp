@@ -109,8 +109,8 @@ void RunReferenceLibraryWork()
         return;
     }
     Pointer<IMemory, 1> block = Memory::New(1024, true);
-    std::printf("\nMemory::New(1024, true): %lld bytes, first byte %d\n", static_cast<long long>(block->Size()),
-                static_cast<const unsigned char*>(block->Data())[0]);
+    std::printf("\nMemory::New(1024, true): %lld bytes, first byte %d\n",
+                static_cast<long long>(block->Size()), static_cast<const unsigned char*>(block->Data())[0]);
 
     std::printf("\nmatrices of the reference library:\n");
     Pointer<Math::IMatrixD, 1> matrix = Math::MatrixD::New(2, 2, {4.0, 7.0, 2.0, 6.0});
@@ -164,6 +164,7 @@ int Demo(const Arguments& arguments)
     RunPluginWork();
     RunReferenceLibraryWork();
     RunGeometryWork();
+    RunImageWork();
     RunRootDemo();
 
     const int status = failures.empty() ? 0 : 1;

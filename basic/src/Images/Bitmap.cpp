@@ -4,8 +4,12 @@
 #include "Quilon_/PrivateLibrary.h"
 #include "Quilon_/System/Raise.h"
 
+#include "Images/SampleValue.h"
+
 #include <algorithm>
+#include <complex>
 #include <cstring>
+#include <vector>
 
 namespace Quilon_::Basic::Images {
 
@@ -25,11 +29,66 @@ std::array<int, 5> AxisMap(const Layout& to, const Layout& from)
     return map;
 }
 
+// One line of samples read into complex doubles and written back: a change
+// of data type keeps each value, rounded and saturated as SampleFromDouble
+// does; a complex value written into a real type keeps its real part.
+using Wide = std::complex<double>;
+using LineReader = void (*)(const char* source, std::int64_t step, std::int64_t count, Wide* values);
+using LineWriter = void (*)(char* target, std::int64_t step, std::int64_t count, const Wide* values);
+
+LineReader ReaderOf(System::NumericTypeEnum type)
+{
+    return DispatchSampleType(type, [](auto tag) -> LineReader {
+        using T = typename decltype(tag)::type;
+        return [](const char* source, std::int64_t step, std::int64_t count, Wide* values) {
+            for (std::int64_t i = 0; i < count; ++i) {
+                T value;
+                std::memcpy(&value, source + i * step, sizeof(T));
+                values[i] = Wide(value);
+            }
+        };
+    });
+}
+
+LineWriter WriterOf(System::NumericTypeEnum type)
+{
+    return DispatchSampleType(type, [](auto tag) -> LineWriter {
+        using T = typename decltype(tag)::type;
+        return [](char* target, std::int64_t step, std::int64_t count, const Wide* values) {
+            for (std::int64_t i = 0; i < count; ++i) {
+                T value;
+                if constexpr (IsComplex<T>::value)
+                    value = T(values[i]);
+                else
+                    value = SampleFromDouble<T>(values[i].real());
+                std::memcpy(target + i * step, &value, sizeof(T));
+            }
+        };
+    });
+}
+
+// How samples travel from one bitmap to another: bytes as they are, or
+// values converted when the data types differ.
+struct SampleCopy {
+    std::int64_t bytes = 0;
+    LineReader read = nullptr;
+    LineWriter write = nullptr;
+};
+
+SampleCopy SampleCopyOf(System::NumericTypeEnum from, System::NumericTypeEnum to, std::int64_t bytes)
+{
+    if (from == to)
+        return {bytes, nullptr, nullptr};
+    return {bytes, ReaderOf(from), WriterOf(to)};
+}
+
 // Copies the samples at locations that both layouts have: on shared axes up
 // to the smaller size, on axes only one of them has at 0. Returns the kept
 // extent in `to`'s axes.
-Extent CopyCommon(const Layout& to, char* target, const Layout& from, const char* source, std::int64_t bytes)
+Extent CopyCommon(const Layout& to, char* target, const Layout& from, const char* source,
+                  const SampleCopy& copy)
 {
+    const std::int64_t bytes = copy.bytes;
     const std::array<int, 5> map = AxisMap(to, from);
     Extent kept{1, 1, 1, 1, 1};
     for (int i = 0; i < to.axisCount; ++i)
@@ -43,6 +102,7 @@ Extent CopyCommon(const Layout& to, char* target, const Layout& from, const char
             return Extent{0, 0, 0, 0, 0};
     const std::int64_t fromStride0 = map[0] >= 0 ? from.stride[map[0]] : 0;
     const bool contiguous = to.stride[0] == bytes && fromStride0 == bytes;
+    std::vector<Wide> line(copy.read ? static_cast<std::size_t>(kept[0]) : 0);
     Extent c{};
     for (c[4] = 0; c[4] < kept[4]; ++c[4])
         for (c[3] = 0; c[3] < kept[3]; ++c[3])
@@ -53,6 +113,11 @@ Extent CopyCommon(const Layout& to, char* target, const Layout& from, const char
                         t += c[i] * to.stride[i];
                         if (map[i] >= 0)
                             s += c[i] * from.stride[map[i]];
+                    }
+                    if (copy.read) {
+                        copy.read(source + s, fromStride0, kept[0], line.data());
+                        copy.write(target + t, to.stride[0], kept[0], line.data());
+                        continue;
                     }
                     if (contiguous) {
                         std::memcpy(target + t, source + s, static_cast<std::size_t>(kept[0] * bytes));
@@ -124,7 +189,6 @@ void CBitmap::Reshape(CoordinatesRef size, FormatRef format, const Padding& padd
     CoordinatesRef newSize(System::Pointer<System::ICloneable, 1>(size)->Clone());
     FormatRef newFormat = OwnCopy(std::move(format));
     const Layout layout = LayoutOf(*newSize, *newFormat);
-    const bool sameSamples = newFormat->DataType() == m_type;
     if (newFormat->IsCompatible(m_format) && layout.Strides() == m_layout.Strides() &&
         layout.size == m_layout.size && layout.axes == m_layout.axes) {
         m_size = newSize;
@@ -132,10 +196,9 @@ void CBitmap::Reshape(CoordinatesRef size, FormatRef format, const Padding& padd
         return;
     }
     MemoryRef memory = System::Memory::New(layout.bytes, true);
-    Extent kept{0, 0, 0, 0, 0};
-    if (sameSamples)
-        kept = CopyCommon(layout, static_cast<char*>(memory->Data()), m_layout,
-                          static_cast<const char*>(m_memory->Data()), m_format->BytesPerSample());
+    const Extent kept = CopyCommon(layout, static_cast<char*>(memory->Data()), m_layout,
+                                   static_cast<const char*>(m_memory->Data()),
+                                   SampleCopyOf(m_type, newFormat->DataType(), m_format->BytesPerSample()));
     const SampleBlock block{layout, memory->Data(), newFormat->DataType()};
     PadOutside(block, Extent{0, 0, 0, 0, 0}, kept, padding);
     // Nothing changes until everything that can fail has run.

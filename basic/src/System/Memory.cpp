@@ -21,7 +21,12 @@ class CMemoryBase : public Template::ObjectImpl<Derived, IMemory> {
 public:
     void* Data() override { return m_data; }
     std::int64_t Size() override { return m_size; }
-    void Fill(unsigned char value) override { std::memset(m_data, value, static_cast<std::size_t>(m_size)); }
+    void Fill(unsigned char value) override
+    {
+        // An empty block may have no address at all.
+        if (m_size > 0)
+            std::memset(m_data, value, static_cast<std::size_t>(m_size));
+    }
     void CopyFrom(const void* source, std::int64_t count, std::int64_t offset) override
     {
         if (offset < 0 || count < 0 || offset + count > m_size)

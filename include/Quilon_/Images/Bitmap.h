@@ -35,9 +35,10 @@ public:
     virtual System::Pointer<Geometry::ICoordinates, 1> Size() = 0;
     // The format itself, not a copy: clone it before changing it.
     virtual System::Pointer<IFormat, 1> Format() = 0;
-    // Gives the bitmap a new size and format. With the same data type the
-    // samples at locations in both sizes keep their values, whatever the
-    // orders; otherwise none is kept. The other samples are filled by
+    // Gives the bitmap a new size and format. The samples at locations in
+    // both sizes keep their values, whatever the orders; under another data
+    // type each value is converted, rounded and saturated (a complex value
+    // keeps its real part in a real type). The other samples are filled by
     // `padding`.
     virtual void Reshape(System::Pointer<Geometry::ICoordinates, 1> size, System::Pointer<IFormat, 1> format,
                          const Padding& padding) = 0;

@@ -4,4 +4,6 @@ namespace Quilon_::Images::Color {
 
 QUILON_DEFINE_INTERFACE_TYPE(IColorSpace, L"Quilon_::Images::Color::IColorSpace", System::Interface)
 
+ColorSpace::Factory ColorSpace::New;
+
 } // namespace Quilon_::Images::Color
