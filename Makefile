@@ -27,7 +27,11 @@ ASAN_ENV := ASAN_OPTIONS=detect_leaks=1:abort_on_error=1 UBSAN_OPTIONS=print_sta
 TSAN_ENV := TSAN_OPTIONS=halt_on_error=1:second_deadlock_stack=1
 
 # configure,<folder>,<extra cmake arguments>
-configure = $(CMAKE) -S . -B $(1) -G Ninja -DCMAKE_BUILD_TYPE=$(BUILD_TYPE) $(2)
+# The make folders build the core, the tool and the tests in batches of
+# sources (unity build), which halves a clean build; UNITY=OFF for a folder
+# in which single files are edited and rebuilt.
+UNITY ?= ON
+configure = $(CMAKE) -S . -B $(1) -G Ninja -DCMAKE_BUILD_TYPE=$(BUILD_TYPE) -DQUILON_UNITY_BUILD=$(UNITY) $(2)
 compile   = $(CMAKE) --build $(1) --parallel $(JOBS)
 run_tests = cd $(1) && $(2) $(CTEST) --output-on-failure -j$(JOBS)
 
@@ -59,7 +63,7 @@ test: deps build
 	@if $(fuzz_available); then \
 	    $(MAKE) --no-print-directory fuzz FUZZ_TIME=$(FUZZ_SHORT_TIME); \
 	else \
-	    echo "test: clang's libFuzzer runtime is missing; the archive reader is not fuzzed"; \
+	    echo "test: clang's libFuzzer runtime is missing; the archive and image readers are not fuzzed"; \
 	fi
 
 asan:
@@ -72,17 +76,22 @@ tsan:
 	$(call compile,$(TSAN_DIR))
 	$(call run_tests,$(TSAN_DIR),$(TSAN_ENV))
 
-# The archive reader under libFuzzer, AddressSanitizer and UBSan, from a seed
-# corpus that the writer produces; new inputs are kept in $(FUZZ_DIR)/corpus.
-# Only the fuzz targets and the libraries they load are built there.
+# The archive reader and the image file readers under libFuzzer,
+# AddressSanitizer and UBSan, each from a seed corpus that the writers
+# produce and for half of FUZZ_TIME; new inputs are kept in $(FUZZ_DIR)/corpus
+# and $(FUZZ_DIR)/image-corpus. Only the fuzz targets and the libraries they
+# load are built there.
 fuzz-build:
 	CXX=$(CLANGXX) $(call configure,$(FUZZ_DIR),-DQUILON_FUZZ=ON -DQUILON_BUILD_TESTS=OFF -DQUILON_BUILD_BENCH=OFF)
-	$(call compile,$(FUZZ_DIR)) --target ArchiveReaderFuzzer ArchiveSeedCorpus
+	$(call compile,$(FUZZ_DIR)) --target ArchiveReaderFuzzer ArchiveSeedCorpus ImageReaderFuzzer ImageSeedCorpus
 
 fuzz: fuzz-build
 	$(FUZZ_DIR)/bin/ArchiveSeedCorpus $(FUZZ_DIR)/corpus
-	$(ASAN_ENV) $(FUZZ_DIR)/bin/ArchiveReaderFuzzer -max_total_time=$(FUZZ_TIME) -max_len=4096 \
+	$(ASAN_ENV) $(FUZZ_DIR)/bin/ArchiveReaderFuzzer -max_total_time=$$(( $(FUZZ_TIME) / 2 )) -max_len=4096 \
 	    -timeout=10 -rss_limit_mb=2048 -print_final_stats=1 $(FUZZ_DIR)/corpus
+	$(FUZZ_DIR)/bin/ImageSeedCorpus $(FUZZ_DIR)/image-corpus
+	$(ASAN_ENV) $(FUZZ_DIR)/bin/ImageReaderFuzzer -max_total_time=$$(( $(FUZZ_TIME) / 2 )) -max_len=16384 \
+	    -timeout=10 -rss_limit_mb=2048 -print_final_stats=1 $(FUZZ_DIR)/image-corpus
 
 stress: build
 	$(call compile,$(STRESS_DIR))

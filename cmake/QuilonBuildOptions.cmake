@@ -88,3 +88,18 @@ if(QUILON_CCACHE AND QUILON_CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
     set(CMAKE_CXX_COMPILER_LAUNCHER ${QUILON_CCACHE_PROGRAM})
     set(CMAKE_C_COMPILER_LAUNCHER ${QUILON_CCACHE_PROGRAM})
 endif()
+
+# Unity builds compile the sources of a target in batches, one translation
+# unit per batch: the core and the tests are many small sources that each
+# parse the same public headers, so a clean build of them spends most of its
+# time on the headers. `make` turns it on for its build folders, where a
+# clean build is the common case (CI); a folder for editing and rebuilding
+# one file leaves it off. Sources of such a target must not clash when put
+# together: no file-scope `using namespace` that makes another source's
+# names ambiguous, and distinct names in anonymous namespaces.
+option(QUILON_UNITY_BUILD "Compile the core, the tool and the tests in batches of sources (faster clean builds)" OFF)
+function(quilon_unity_build target)
+    if(QUILON_UNITY_BUILD)
+        set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 8)
+    endif()
+endfunction()

@@ -19,6 +19,10 @@ packages=(
     clang
     ccache
     libclang-rt-14-dev
+    libpng-dev
+    libtiff-dev
+    libjpeg62-turbo-dev
+    libcli11-dev
 )
 
 missing=()

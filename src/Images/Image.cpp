@@ -143,16 +143,17 @@ void ConvertToBinary(const Ref& image)
 void ConvertToEdge(const Ref& image)
 {
     Size size = image->Size();
-    const Geometry::Axes spatial(
-        static_cast<unsigned char>(size->Axes() & (Geometry::aX | Geometry::aY | Geometry::aZ)));
+    const Quilon_::Geometry::Axes spatial(static_cast<unsigned char>(
+        size->Axes() & (Quilon_::Geometry::aX | Quilon_::Geometry::aY | Quilon_::Geometry::aZ)));
     const std::int64_t dimension = spatial.AxisCount();
     if (dimension == image->BandCount())
         return;
     Size edgeSize(System::Pointer<System::ICloneable, 1>(size)->Clone());
-    edgeSize->SetAxes(Geometry::Axes(static_cast<unsigned char>(edgeSize->Axes() | Geometry::aB)));
-    edgeSize->SetValue(Geometry::aB, dimension);
+    edgeSize->SetAxes(
+        Quilon_::Geometry::Axes(static_cast<unsigned char>(edgeSize->Axes() | Quilon_::Geometry::aB)));
+    edgeSize->SetValue(Quilon_::Geometry::aB, dimension);
     Format edgeFormat = UniformFormat::New(
-        StorageOrder::BFirst(StorageOrder::Add(image->Format()->StorageOrder(), Geometry::aB)));
+        StorageOrder::BFirst(StorageOrder::Add(image->Format()->StorageOrder(), Quilon_::Geometry::aB)));
     Ref edges = New(edgeSize, edgeFormat);
     Utility::Functions::CopyBand(SingleBandScalar(image), edges, 0);
     image->Reshape(edgeFormat, edgeSize, false, ZeroPadding());
@@ -297,36 +298,36 @@ void SetPalette(Ref image, System::Ref<Drawing::IPalette> palette)
     SetPalette(std::move(image), System::Pointer<Drawing::IPalette, 0>(palette));
 }
 
-System::Pointer<Geometry::IShapeSet, 0> ROI(Ref image)
+System::Pointer<Quilon_::Geometry::IShapeSet, 0> ROI(Ref image)
 {
-    return ObjectProperty<Geometry::IShapeSet>(image, ROIKey());
+    return ObjectProperty<Quilon_::Geometry::IShapeSet>(image, ROIKey());
 }
 
-void SetROI(Ref image, System::Pointer<Geometry::IShapeSet, 0> roi)
+void SetROI(Ref image, System::Pointer<Quilon_::Geometry::IShapeSet, 0> roi)
 {
     if (roi)
         Helper::SetName(roi, ROIName());
     SetOrRemove(image, ROIKey(), roi);
 }
 
-void SetROI(Ref image, System::Ref<Geometry::IShapeSet> roi)
+void SetROI(Ref image, System::Ref<Quilon_::Geometry::IShapeSet> roi)
 {
     Helper::SetValue(image, ROIKey(), System::ToAny(roi), PropertyFlags);
 }
 
-void SetROI(Ref image, System::Ref<Geometry::IShapeND> shape)
+void SetROI(Ref image, System::Ref<Quilon_::Geometry::IShapeND> shape)
 {
-    System::Ref<Geometry::IShapeSet> roi = Geometry::ShapeSet::New();
+    System::Ref<Quilon_::Geometry::IShapeSet> roi = Quilon_::Geometry::ShapeSet::New();
     roi->Add(shape);
     SetROI(std::move(image), roi);
 }
 
-System::Pointer<Geometry::ICoordinates, 0> Origin(Ref image)
+System::Pointer<Quilon_::Geometry::ICoordinates, 0> Origin(Ref image)
 {
-    return ObjectProperty<Geometry::ICoordinates>(image, OriginKey());
+    return ObjectProperty<Quilon_::Geometry::ICoordinates>(image, OriginKey());
 }
 
-void SetOrigin(Ref image, System::Pointer<Geometry::ICoordinates, 0> origin)
+void SetOrigin(Ref image, System::Pointer<Quilon_::Geometry::ICoordinates, 0> origin)
 {
     SetOrRemove(image, OriginKey(), origin);
 }
@@ -337,7 +338,7 @@ Ref SingleBandScalar(Ref image)
     if (System::Pointer<Color::IColorFormat, 0>(image->Format())) {
         result = New();
         Color::Utility::Functions::Intensity(image, result);
-    } else if (image->Size()->Axes() & Geometry::aB) {
+    } else if (image->Size()->Axes() & Quilon_::Geometry::aB) {
         result = New();
         Utility::Functions::ExtractBand(image, result, 0);
     }

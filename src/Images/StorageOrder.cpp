@@ -12,45 +12,45 @@ namespace StorageOrder {
 
 Factory New;
 
-QUILON_DEFINE_FUNCTION_SLOT(Add, 1, Order (*)(Order, Geometry::AxisEnum))
-QUILON_DEFINE_FUNCTION_SLOT(Remove, 1, Order (*)(Order, Geometry::AxisEnum))
-QUILON_DEFINE_FUNCTION_SLOT(First, 1, Order (*)(Order, Geometry::AxisEnum))
-QUILON_DEFINE_FUNCTION_SLOT(Last, 1, Order (*)(Order, Geometry::AxisEnum))
-QUILON_DEFINE_FUNCTION_SLOT(Reverse, 1, Order (*)(Order, Geometry::AxisEnum))
+QUILON_DEFINE_FUNCTION_SLOT(Add, 1, Order (*)(Order, Quilon_::Geometry::AxisEnum))
+QUILON_DEFINE_FUNCTION_SLOT(Remove, 1, Order (*)(Order, Quilon_::Geometry::AxisEnum))
+QUILON_DEFINE_FUNCTION_SLOT(First, 1, Order (*)(Order, Quilon_::Geometry::AxisEnum))
+QUILON_DEFINE_FUNCTION_SLOT(Last, 1, Order (*)(Order, Quilon_::Geometry::AxisEnum))
+QUILON_DEFINE_FUNCTION_SLOT(Reverse, 1, Order (*)(Order, Quilon_::Geometry::AxisEnum))
 
-Order Add(Order order, Geometry::AxisEnum axis)
+Order Add(Order order, Quilon_::Geometry::AxisEnum axis)
 {
     return QUILON_FUNCTION_SLOT(Add, 1)(std::move(order), axis);
 }
 
-Order Remove(Order order, Geometry::AxisEnum axis)
+Order Remove(Order order, Quilon_::Geometry::AxisEnum axis)
 {
     return QUILON_FUNCTION_SLOT(Remove, 1)(std::move(order), axis);
 }
 
-Order First(Order order, Geometry::AxisEnum axis)
+Order First(Order order, Quilon_::Geometry::AxisEnum axis)
 {
     return QUILON_FUNCTION_SLOT(First, 1)(std::move(order), axis);
 }
 
-Order Last(Order order, Geometry::AxisEnum axis)
+Order Last(Order order, Quilon_::Geometry::AxisEnum axis)
 {
     return QUILON_FUNCTION_SLOT(Last, 1)(std::move(order), axis);
 }
 
-Order Reverse(Order order, Geometry::AxisEnum axis)
+Order Reverse(Order order, Quilon_::Geometry::AxisEnum axis)
 {
     return QUILON_FUNCTION_SLOT(Reverse, 1)(std::move(order), axis);
 }
 
 Order BFirst(Order order)
 {
-    return First(std::move(order), Geometry::aB);
+    return First(std::move(order), Quilon_::Geometry::aB);
 }
 
 Order BLast(Order order)
 {
-    return Last(std::move(order), Geometry::aB);
+    return Last(std::move(order), Quilon_::Geometry::aB);
 }
 
 } // namespace StorageOrder

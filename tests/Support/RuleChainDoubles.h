@@ -8,6 +8,7 @@
 #pragma once
 
 #include "Quilon_/System/DisableEvents.h"
+#include "Quilon_/System/Functions/RuleChain.h"
 #include "Quilon_/System/Functions/Rules/RulePresentation.h"
 #include "Quilon_/System/ObjectImpl.h"
 
@@ -18,14 +19,15 @@
 
 namespace Quilon_::Tests {
 
-// The core's own collection, holding `rules` in order.
+// The core's own collection, holding `rules` in order, as a chain makes
+// the collection of one moment; an empty one for no rules.
 inline System::Pointer<System::Functions::Rules::IRuleCollection, 1>
-Chain(const std::vector<System::Pointer<System::Functions::Rules::IRule, 1>>& rules)
+Chain(System::Functions::RuleChain::RuleList rules)
 {
-    auto collection = System::Functions::Rules::RuleCollection::NewInstance();
-    for (const auto& rule : rules)
-        collection->Add(rule);
-    return collection;
+    if (rules.size() == 0)
+        return System::Functions::Rules::RuleCollection::NewInstance();
+    return System::Pointer<System::Functions::Rules::IRuleCollection, 1>(
+        System::Functions::RuleChain().Check(rules).Collections()[System::Functions::rtCheck]);
 }
 
 // An object whose events can be switched off, standing for a collection;

@@ -11,6 +11,7 @@
 
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace Quilon_::Tests::PointerTests {
 
@@ -43,7 +44,8 @@ private:
     bool m_exact;
 };
 
-const std::wstring NullAssignment = L"Pointer <Quilon_::Tests::Kernel::IThing> : attempt to assign 0 to a reference";
+const std::wstring NullAssignment =
+    L"Pointer <Quilon_::Tests::Kernel::IThing> : attempt to assign 0 to a reference";
 const std::wstring NullAccess = L"Pointer <Quilon_::Tests::Kernel::IThing> : attempt to access a 0 pointer";
 
 using PointerTest = RaisingTest;
@@ -86,6 +88,38 @@ TEST_F(PointerTest, CastsCompareByObjectIdentityAndFailedCastsYieldNullOrRaise)
               L"Pointer <Quilon_::Tests::Kernel::IOther> : Interface not supported by instance of "
               L"Quilon_::Tests::Kernel::CThing");
     EXPECT_EQ(plain->ReferenceCount(), 1) << "a failed cast must not keep a reference";
+}
+
+// Both interfaces in the other order, and state before them: its parts lie
+// at other distances from its Interface part than those of CBoth.
+class CReversed : public System::Template::ObjectImpl<CReversed, IOther, IThing> {
+public:
+    int Value() override { return 4; }
+    int Other() override { return 5; }
+    char state[24] = {};
+};
+
+// Casts are remembered per class: objects of classes whose interfaces lie at
+// different places, cast in turns, each land on their own part, and a class
+// that lacks the interface keeps failing.
+TEST_F(PointerTest, RepeatedCastsLandOnEachClassOwnPart)
+{
+    std::vector<Pointer<Interface, 1>> objects;
+    for (int i = 0; i < 3; ++i) {
+        objects.emplace_back(static_cast<IThing*>(new CBoth));
+        objects.emplace_back(static_cast<IThing*>(new CReversed));
+        objects.emplace_back(static_cast<IThing*>(new CThing(nullptr, 7)));
+    }
+    for (int round = 0; round < 3; ++round) {
+        for (const auto& object : objects) {
+            Pointer<IOther, 0> other(object);
+            Pointer<IThing, 1> thing(object);
+            EXPECT_EQ(other.Get(), dynamic_cast<IOther*>(object.Get()));
+            EXPECT_EQ(thing.Get(), dynamic_cast<IThing*>(object.Get()));
+            if (other)
+                EXPECT_EQ(other->Other(), thing->Value() == 1 ? 2 : 5);
+        }
+    }
 }
 
 TEST_F(PointerTest, DelegateAnswersExactlyOrWithAnObjectToCastFurther)

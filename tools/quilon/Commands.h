@@ -3,9 +3,15 @@
 
 #include "Quilon_/System/Exception.h"
 
+#include <cstddef>
+
 #include <cstdio>
 #include <string>
 #include <vector>
+
+namespace Quilon_::System::Functions::Detail {
+class Function;
+}
 
 namespace Quilon_::Tool {
 
@@ -22,13 +28,33 @@ int Demo(const Arguments& arguments);
 void RunGeometryWork();
 // Images, their categories and the make rules, units and gestures.
 void RunImageWork();
+// The pipeline on a generated sample image: read, smooth, threshold, open,
+// fill holes, write; each step with its time, skipped when its operator is
+// not implemented.
+void RunPipeline();
 // quilon info [--init FILE]: starts the library and prints what it loaded
 // and each failure; fails when a library did.
 int Info(const Arguments& arguments);
 // quilon operators [--init FILE] [PATTERN]: starts the library and lists the
-// operators whose name contains PATTERN, in any case of letters, with their
-// number of implementations and, under each, the rules of each moment.
+// operators whose name contains PATTERN, in any case of letters, one row per
+// overload: its number of implementations, its signature and its chain.
 int Operators(const Arguments& arguments);
+// quilon run [--init FILE] OPERATOR ARGS...: calls an operator from text;
+// image arguments are files, read or written by their direction.
+int Run(const Arguments& arguments);
+
+// One overload of a named operator, as the registry lists them.
+struct Overload {
+    std::wstring name;
+    std::size_t index;
+    // How many overloads the object holds.
+    std::size_t count;
+    const System::Functions::Detail::Function* function;
+};
+// Every overload of every named operator, by name.
+std::vector<Overload> Overloads();
+// "Name[1](Ref<IImage>, double&) -> void"; the index only with several.
+std::wstring SignatureText(const Overload& overload);
 // quilon dump [--init FILE] ARCHIVE: starts the library and prints the
 // archive's header, then each value or object in it; fails on the first
 // value that cannot be read.

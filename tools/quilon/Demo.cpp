@@ -165,6 +165,7 @@ int Demo(const Arguments& arguments)
     RunReferenceLibraryWork();
     RunGeometryWork();
     RunImageWork();
+    RunPipeline();
     RunRootDemo();
 
     const int status = failures.empty() ? 0 : 1;

@@ -17,7 +17,7 @@
 #include "Quilon_/Measurements/Unit.h"
 #include "Quilon_/Measurements/UnitCollection.h"
 #include "Quilon_/System/Exception.h"
-#include "Quilon_/System/Functions/Rules/RuleCollection.h"
+#include "Quilon_/System/Functions/RuleChain.h"
 #include "Quilon_/Windows/InputEvent.h"
 
 #include <cstdio>
@@ -75,17 +75,11 @@ void ShowMakeRule()
 {
     using namespace Images::Functions::Rules;
     ImageOperator filter(&DoNothing);
-    auto chain = [](System::Pointer<System::Functions::Rules::IRule, 1> rule) {
-        auto collection = System::Functions::Rules::RuleCollection::New();
-        collection->Add(rule);
-        return collection;
-    };
-    filter.SetRules(System::Functions::RuleCollections{
-        chain(CheckImageScalar::New(0, false, false, false)),
-        chain(MakeImageCompatible::New(1, 0, 0x2F, 0x1F)),
-        chain(CheckImageCompatible::New(1, 0, 0xF)),
-        nullptr,
-    });
+    System::Functions::RuleChain()
+        .Check({CheckImageScalar::New(0, false, false, false)})
+        .Make({MakeImageCompatible::New(1, 0, 0x2F, 0x1F)})
+        .PreExecute({CheckImageCompatible::New(1, 0, 0xF)})
+        .AssignTo(filter);
     Ref<IImage> input = MakeImage(
         System::ntUInt16,
         Geometry::Coordinates::New(std::int64_t(5), std::int64_t(4), std::int64_t(2), Axes::aXYB), L"XYB");

@@ -69,37 +69,38 @@ const std::map<std::wstring, Printer>& Printers()
 {
     using namespace System;
     static const std::map<std::wstring, Printer> printers = {
-        {Helper::TypeName(typeid(bool)),
+        {System::Helper::TypeName(typeid(bool)),
          [](const Any& v) { return std::wstring(v.CastTo<bool>() ? L"true" : L"false"); }},
-        {Helper::TypeName(typeid(char)), [](const Any& v) { return std::to_wstring(int(v.CastTo<char>())); }},
-        {Helper::TypeName(typeid(unsigned char)), &Number<unsigned char>},
-        {Helper::TypeName(typeid(short)), &Number<short>},
-        {Helper::TypeName(typeid(unsigned short)), &Number<unsigned short>},
-        {Helper::TypeName(typeid(int)), &Number<int>},
-        {Helper::TypeName(typeid(unsigned int)), &Number<unsigned int>},
-        {Helper::TypeName(typeid(std::int64_t)), &Number<std::int64_t>},
-        {Helper::TypeName(typeid(std::uint64_t)), &Number<std::uint64_t>},
-        {Helper::TypeName(typeid(float)), &Number<float>},
-        {Helper::TypeName(typeid(double)), &Number<double>},
-        {Helper::TypeName(typeid(std::string)),
+        {System::Helper::TypeName(typeid(char)),
+         [](const Any& v) { return std::to_wstring(int(v.CastTo<char>())); }},
+        {System::Helper::TypeName(typeid(unsigned char)), &Number<unsigned char>},
+        {System::Helper::TypeName(typeid(short)), &Number<short>},
+        {System::Helper::TypeName(typeid(unsigned short)), &Number<unsigned short>},
+        {System::Helper::TypeName(typeid(int)), &Number<int>},
+        {System::Helper::TypeName(typeid(unsigned int)), &Number<unsigned int>},
+        {System::Helper::TypeName(typeid(std::int64_t)), &Number<std::int64_t>},
+        {System::Helper::TypeName(typeid(std::uint64_t)), &Number<std::uint64_t>},
+        {System::Helper::TypeName(typeid(float)), &Number<float>},
+        {System::Helper::TypeName(typeid(double)), &Number<double>},
+        {System::Helper::TypeName(typeid(std::string)),
          [](const Any& v) { return Quoted(ToString(v.CastTo<std::string>())); }},
-        {Helper::TypeName(typeid(std::wstring)),
+        {System::Helper::TypeName(typeid(std::wstring)),
          [](const Any& v) { return Quoted(v.CastTo<std::wstring>()); }},
-        {Helper::TypeName(typeid(LIString)),
+        {System::Helper::TypeName(typeid(LIString)),
          [](const Any& v) {
              const auto text = v.CastTo<LIString>();
              return Quoted(text.Value()) + (text.IsLocalizable() ? L" (translatable)" : L"");
          }},
-        {Helper::TypeName(typeid(Type)),
+        {System::Helper::TypeName(typeid(Type)),
          [](const Any& v) {
              const auto type = v.CastTo<Type>();
              return type.IsEmpty() ? std::wstring(L"(none)") : type.Name();
          }},
-        {Helper::TypeName(typeid(DateTime)), &DateText},
-        {Helper::TypeName(typeid(std::vector<std::int64_t>)), &Elements<std::int64_t>},
-        {Helper::TypeName(typeid(std::vector<int>)), &Elements<int>},
-        {Helper::TypeName(typeid(std::vector<double>)), &Elements<double>},
-        {Helper::TypeName(typeid(std::vector<float>)), &Elements<float>},
+        {System::Helper::TypeName(typeid(DateTime)), &DateText},
+        {System::Helper::TypeName(typeid(std::vector<std::int64_t>)), &Elements<std::int64_t>},
+        {System::Helper::TypeName(typeid(std::vector<int>)), &Elements<int>},
+        {System::Helper::TypeName(typeid(std::vector<double>)), &Elements<double>},
+        {System::Helper::TypeName(typeid(std::vector<float>)), &Elements<float>},
     };
     return printers;
 }

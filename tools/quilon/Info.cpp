@@ -1,5 +1,8 @@
 #include "Commands.h"
 
+#include "Quilon_/Images/IO/BitmapReader.h"
+#include "Quilon_/Images/IO/BitmapWriter.h"
+#include "Quilon_/Images/IO/Globals.h"
 #include "Quilon_/Library.h"
 #include "Quilon_/System/String.h"
 
@@ -45,6 +48,21 @@ bool IsLoaded(const std::string& name)
     return false;
 }
 
+// One line per reader or writer of image files: its name and extensions.
+template <class Collection>
+void PrintFormats(const char* title, const System::Pointer<Collection, 0>& formats)
+{
+    const std::int64_t count = formats ? formats->Count() : 0;
+    std::printf("%s (%lld):\n", title, static_cast<long long>(count));
+    for (std::int64_t i = 0; i < count; ++i) {
+        auto format = formats->Item(i);
+        std::string extensions;
+        for (const std::wstring& extension : format->Extensions())
+            extensions += (extensions.empty() ? "." : " .") + System::ToAnsi(extension);
+        std::printf("  %-40s %s\n", System::ToAnsi(format->Name()).c_str(), extensions.c_str());
+    }
+}
+
 } // namespace
 
 int Info(const Arguments& arguments)
@@ -69,6 +87,10 @@ int Info(const Arguments& arguments)
     std::printf("start-up failures (%zu)%s\n", failures.size(), failures.empty() ? "" : ":");
     for (const auto& failure : failures)
         PrintMessage(stdout, failure->Message());
+    PrintFormats("image readers", System::Pointer<Images::IO::IBitmapReaderCollection, 0>(
+                                      Images::IO::Globals::BitmapReaders()));
+    PrintFormats("image writers", System::Pointer<Images::IO::IBitmapWriterCollection, 0>(
+                                      Images::IO::Globals::BitmapWriters()));
 
     const int status = failures.empty() ? 0 : 1;
     StopLibrary(failures);

@@ -3,7 +3,7 @@
 #include "Quilon_/Library.h"
 #include "Quilon_/System/Functions/Function.h"
 #include "Quilon_/System/Functions/FunctionRegistry.h"
-#include "Quilon_/System/Functions/Rules/RulePresentation.h"
+#include "Quilon_/System/Functions/RuleChain.h"
 #include "Quilon_/System/String.h"
 
 #include <algorithm>
@@ -20,26 +20,41 @@ std::wstring Lowered(std::wstring text)
     return text;
 }
 
-// The operator's rule chains, one moment after the other, each rule on a
-// line of its own in the order of evaluation:
-//
-//                    Make        CDisableEvents({0, 1})
-//                    PreExecute  CCheckInterfaceSupported(1, Quilon_::System::IDisableEvents)
-//                                CDisableEvents({1})
-void PrintRuleChains(const System::Functions::Detail::Function& function)
+} // namespace
+
+std::vector<Overload> Overloads()
 {
-    static const char* const moments[] = {"Check", "Make", "PreExecute", "PostExecute"};
-    const auto& chains = function.AllRules();
-    for (std::size_t type = 0; type < chains.size(); ++type) {
-        const char* label = moments[type];
-        for (const std::wstring& rule : System::Functions::Rules::PresentRules(chains[type])) {
-            std::printf("%19s%-12s%s\n", "", label, System::ToAnsi(rule).c_str());
-            label = "";
+    std::vector<Overload> overloads;
+    const auto entries = System::Functions::FunctionRegistry::Entries();
+    for (std::size_t i = 0; i < entries.size();) {
+        // The registry keeps the overloads of one object together, in order.
+        std::size_t end = i + 1;
+        while (end < entries.size() && entries[end].name == entries[i].name)
+            ++end;
+        if (!entries[i].name.empty()) {
+            for (std::size_t k = i; k < end; ++k)
+                overloads.push_back({entries[k].name, k - i, end - i, entries[k].function});
         }
+        i = end;
     }
+    return overloads;
 }
 
-} // namespace
+std::wstring SignatureText(const Overload& overload)
+{
+    std::wstring text = overload.name;
+    if (overload.count > 1)
+        text += L"[" + std::to_wstring(overload.index) + L"]";
+    text += L"(";
+    const auto parameters = overload.function->Parameters();
+    for (std::size_t i = 0; i < parameters.size(); ++i) {
+        text += (i == 0 ? L"" : L", ") + parameters[i].type;
+        if (parameters[i].output)
+            text += L"&";
+    }
+    text += L") -> " + overload.function->ResultType();
+    return text;
+}
 
 int Operators(const Arguments& arguments)
 {
@@ -55,14 +70,19 @@ int Operators(const Arguments& arguments)
         PrintMessage(stderr, failure->Message());
     }
 
-    const std::wstring pattern = Lowered(options.rest.empty() ? std::wstring() : System::ToString(options.rest[0]));
+    // One row per overload: implementations, signature, then the chain, so
+    // that a row can be found with grep.
+    const std::wstring pattern =
+        Lowered(options.rest.empty() ? std::wstring() : System::ToString(options.rest[0]));
     std::printf("%15s  %s\n", "implementations", "operator");
-    for (const auto& entry : System::Functions::FunctionRegistry::Entries()) {
-        if (Lowered(entry.name).find(pattern) == std::wstring::npos)
+    for (const Overload& overload : Overloads()) {
+        if (Lowered(overload.name).find(pattern) == std::wstring::npos)
             continue;
-        const std::string name = entry.name.empty() ? "(unnamed)" : System::ToAnsi(entry.name);
-        std::printf("%15zu  %s\n", entry.function->ImplementationCount(), name.c_str());
-        PrintRuleChains(*entry.function);
+        std::wstring row = SignatureText(overload);
+        const std::wstring chain = System::Functions::RuleChain::Present(overload.function->AllRules());
+        if (!chain.empty())
+            row += L"  " + chain;
+        std::printf("%15zu  %s\n", overload.function->ImplementationCount(), System::ToAnsi(row).c_str());
     }
 
     StopLibrary(failures);

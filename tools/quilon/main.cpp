@@ -6,6 +6,7 @@
 //   quilon version                            the library version and its initialisation state
 //   quilon demo [--init FILE]                 work through the demo plug-in and the operator frame
 //   quilon dump [--init FILE] ARCHIVE         the header and the values of an archive
+//   quilon run [--init FILE] OPERATOR ARGS... an operator on image files, numbers and enumerators
 
 #include "Commands.h"
 
@@ -25,10 +26,12 @@ struct Command {
 
 const Command commands[] = {
     {"info", &Quilon_::Tool::Info, "[--init FILE]: start the library; print what it loaded and each failure"},
-    {"operators", &Quilon_::Tool::Operators, "[--init FILE] [PATTERN]: list operators, their implementations and rule chains"},
+    {"operators", &Quilon_::Tool::Operators,
+     "[--init FILE] [PATTERN]: list operators, their implementations and rule chains"},
     {"version", &Quilon_::Tool::Version, "print the library version and the initialisation state"},
     {"demo", &Quilon_::Tool::Demo, "[--init FILE]: run the demo plug-in's operators and show a fall-back"},
     {"dump", &Quilon_::Tool::Dump, "[--init FILE] ARCHIVE: print an archive's header and each value in it"},
+    {"run", &Quilon_::Tool::Run, "[--init FILE] OPERATOR ARGS...: call an operator; images are files"},
 };
 
 void PrintUsage(std::FILE* out)
@@ -52,8 +55,8 @@ int main(int argc, char** argv)
         try {
             return command.run(Quilon_::Tool::Arguments(argv + 2, argv + argc));
         } catch (const Quilon_::System::Pointer<Quilon_::System::IException, 1>& failure) {
-            std::fprintf(stderr, "quilon: %ls\n  at %ls:%lld\n", failure->Message().c_str(), failure->File().c_str(),
-                         static_cast<long long>(failure->Line()));
+            std::fprintf(stderr, "quilon: %ls\n  at %ls:%lld\n", failure->Message().c_str(),
+                         failure->File().c_str(), static_cast<long long>(failure->Line()));
         } catch (const std::exception& failure) {
             std::fprintf(stderr, "quilon: %s\n", failure.what());
         }

@@ -4,10 +4,10 @@
 // order decides which axis is fastest, and Strides() and Origin() say where
 // each sample is, so that code reaches pixels without a call per pixel:
 //
-//   Pointer<IBitmap> bitmap = Bitmap::New(Geometry::Coordinates::New(640, 480, Geometry::Axes::aXY));
-//   std::vector<std::int64_t> strides = bitmap->Strides();      // {1, 640} for "XY" and ntUInt8
-//   auto* first = static_cast<std::uint8_t*>(bitmap->Memory()->Data()) + bitmap->Origin();
-//   first[2 * strides[0] + 1 * strides[1]] = 255;               // location (2, 1)
+//   Pointer<IBitmap> bitmap = Bitmap::New(Quilon_::Geometry::Coordinates::New(640, 480,
+//   Quilon_::Geometry::Axes::aXY)); std::vector<std::int64_t> strides = bitmap->Strides();      // {1, 640}
+//   for "XY" and ntUInt8 auto* first = static_cast<std::uint8_t*>(bitmap->Memory()->Data()) +
+//   bitmap->Origin(); first[2 * strides[0] + 1 * strides[1]] = 255;               // location (2, 1)
 //
 // Several bitmaps may share one memory block under different formats. The
 // concrete bitmaps come from an implementation library through Bitmap::New,
@@ -32,7 +32,7 @@ class QUILON_API IBitmap : public virtual System::Interface {
     QUILON_INTERFACE(IBitmap)
 public:
     // The number of samples along each axis; a copy.
-    virtual System::Pointer<Geometry::ICoordinates, 1> Size() = 0;
+    virtual System::Pointer<Quilon_::Geometry::ICoordinates, 1> Size() = 0;
     // The format itself, not a copy: clone it before changing it.
     virtual System::Pointer<IFormat, 1> Format() = 0;
     // Gives the bitmap a new size and format. The samples at locations in
@@ -40,8 +40,8 @@ public:
     // type each value is converted, rounded and saturated (a complex value
     // keeps its real part in a real type). The other samples are filled by
     // `padding`.
-    virtual void Reshape(System::Pointer<Geometry::ICoordinates, 1> size, System::Pointer<IFormat, 1> format,
-                         const Padding& padding) = 0;
+    virtual void Reshape(System::Pointer<Quilon_::Geometry::ICoordinates, 1> size,
+                         System::Pointer<IFormat, 1> format, const Padding& padding) = 0;
     // The step in bytes between neighbours along each axis of Size(), in
     // its axis order; negative along a reversed axis.
     virtual std::vector<std::int64_t> Strides() = 0;
@@ -66,8 +66,8 @@ public:
 namespace Bitmap {
 
 using Ref = System::Pointer<IBitmap, 1>;
-using Coordinates = System::Pointer<Geometry::ICoordinates, 1>;
-using Shape = System::Pointer<Geometry::IShapeND, 1>;
+using Coordinates = System::Pointer<Quilon_::Geometry::ICoordinates, 1>;
+using Shape = System::Pointer<Quilon_::Geometry::IShapeND, 1>;
 
 // New(size): samples of ntUInt8, cleared, in the implementation's default
 // order; New(size, format): a cleared block laid out by `format`;

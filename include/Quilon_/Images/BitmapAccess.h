@@ -42,7 +42,7 @@ public:
     // The bitmap that this access exposes.
     virtual System::Pointer<IBitmap, 1> Bitmap() = 0;
     // The region the access is limited to; null for the whole bitmap.
-    virtual System::Pointer<Geometry::IShapeND, 0> Shape() = 0;
+    virtual System::Pointer<Quilon_::Geometry::IShapeND, 0> Shape() = 0;
     // The samples the access is limited to, where the mask is not 0; null
     // for all.
     virtual System::Pointer<IBitmap, 0> Mask() = 0;
@@ -61,8 +61,8 @@ public:
     virtual BitmapAccessOptionsEnum Options() = 0;
     // The options of the access to open.
     virtual void SetOptions(BitmapAccessOptionsEnum options) = 0;
-    virtual System::Pointer<Geometry::IShapeND, 0> Shape() = 0;
-    virtual void SetShape(System::Pointer<Geometry::IShapeND, 0> shape) = 0;
+    virtual System::Pointer<Quilon_::Geometry::IShapeND, 0> Shape() = 0;
+    virtual void SetShape(System::Pointer<Quilon_::Geometry::IShapeND, 0> shape) = 0;
     virtual System::Pointer<IBitmap, 0> Mask() = 0;
     virtual void SetMask(System::Pointer<IBitmap, 0> mask) = 0;
     // Whether the access works on a copy of the pixels.
@@ -85,7 +85,7 @@ namespace BitmapAccess {
 // New(bitmap, shape, mask, options, copy): with `copy` the access exposes a
 // copy of `bitmap`, written back on Close() when `options` has baoWrite.
 using Factory = System::Functions::Template::Factory<System::Pointer<IBitmapAccess, 1>(
-    System::Pointer<IBitmap, 1>, System::Pointer<Geometry::IShapeND, 0>, System::Pointer<IBitmap, 0>,
+    System::Pointer<IBitmap, 1>, System::Pointer<Quilon_::Geometry::IShapeND, 0>, System::Pointer<IBitmap, 0>,
     BitmapAccessOptionsEnum, bool)>;
 extern QUILON_API Factory New;
 } // namespace BitmapAccess

@@ -6,7 +6,8 @@
 //
 //   Pointer<IFormat> format = UniformFormat::New(StorageOrder::New(L"XYB"));
 //   format->SetDataType(System::ntUInt16);
-//   format->MemorySize(Geometry::Coordinates::New(640, 480, Geometry::Axes::aXY));   // 614400
+//   format->MemorySize(Quilon_::Geometry::Coordinates::New(640, 480, Quilon_::Geometry::Axes::aXY));   //
+//   614400
 //
 // The concrete formats come from an implementation library through the New
 // objects below.
@@ -35,16 +36,16 @@ public:
     virtual bool IsBinary() = 0;
     // The step in bytes from a sample to the next one along each axis of
     // `size`, in the axis order of `size`; negative on a reversed axis.
-    virtual std::vector<std::int64_t> Strides(Geometry::Coordinates::Reference size) = 0;
+    virtual std::vector<std::int64_t> Strides(Quilon_::Geometry::Coordinates::Reference size) = 0;
     // The byte offset of the sample at location 0 (every axis at 0) in a
     // block laid out for `size`; not 0 when an axis is reversed.
-    virtual std::int64_t Origin(Geometry::Coordinates::Reference size) = 0;
+    virtual std::int64_t Origin(Quilon_::Geometry::Coordinates::Reference size) = 0;
     // The bytes a bitmap of `size` needs.
-    virtual std::int64_t MemorySize(Geometry::Coordinates::Reference size) = 0;
+    virtual std::int64_t MemorySize(Quilon_::Geometry::Coordinates::Reference size) = 0;
     // The byte offset of the sample at `location` in a block laid out for
     // `size`; raises for a location outside the size.
-    virtual std::int64_t Offset(Geometry::Coordinates::Reference size,
-                                Geometry::Coordinates::Reference location) = 0;
+    virtual std::int64_t Offset(Quilon_::Geometry::Coordinates::Reference size,
+                                Quilon_::Geometry::Coordinates::Reference location) = 0;
     virtual System::Pointer<IStorageOrder, 1> StorageOrder() = 0;
     virtual void SetStorageOrder(System::Pointer<IStorageOrder, 1> order) = 0;
     // Whether a bitmap in `other` has its samples laid out as in this format:
@@ -52,7 +53,7 @@ public:
     virtual bool IsCompatible(System::Pointer<IFormat, 1> other) = 0;
     // Whether a bitmap of `size` can have this format; a format with a fixed
     // number of bands refuses another band count.
-    virtual bool Accepts(Geometry::Coordinates::Reference size) = 0;
+    virtual bool Accepts(Quilon_::Geometry::Coordinates::Reference size) = 0;
     // The data type and the order, for messages: "ntUInt8 XYB".
     virtual std::wstring ToString() = 0;
 };

@@ -3,7 +3,7 @@
 // origin), kept as extended properties of the image.
 //
 //   Ref<Images::IImage> image =
-//       Images::Image::New(Geometry::Coordinates::New(640, 480, Geometry::Axes::aXY));
+//       Images::Image::New(Quilon_::Geometry::Coordinates::New(640, 480, Quilon_::Geometry::Axes::aXY));
 //   // Also picks the palette "Palette.Grey":
 //   Images::Image::SetCategory(image, Images::picGrey, false);
 //   Images::Image::Category(image).Value();   // "Image.Category.Grey"
@@ -48,7 +48,7 @@ class QUILON_API IImage : public virtual System::Interface {
     QUILON_INTERFACE(IImage)
 public:
     // 1. The number of samples along each axis; a copy.
-    virtual System::Ref<Geometry::ICoordinates> Size() = 0;
+    virtual System::Ref<Quilon_::Geometry::ICoordinates> Size() = 0;
     // 2. The bitmap that holds the samples, itself.
     virtual System::Ref<IBitmap> Bitmap() = 0;
     // 3. The format of the bitmap, itself: clone it before changing it.
@@ -65,8 +65,8 @@ public:
     // samples at locations in both sizes keep their values (converted under
     // a new data type) and `padding` fills the others; with `discard` true a
     // new bitmap is made and nothing is kept. Fires Changed().
-    virtual void Reshape(System::Ref<IFormat> format, System::Ref<Geometry::ICoordinates> size, bool discard,
-                         const Padding& padding) = 0;
+    virtual void Reshape(System::Ref<IFormat> format, System::Ref<Quilon_::Geometry::ICoordinates> size,
+                         bool discard, const Padding& padding) = 0;
     // 9. The number of spatial axes of the size (X, Y, Z), without T and B.
     virtual std::int64_t Dimension() = 0;
     // 10. The empty image: ntUInt8 with a size of product 0.
@@ -74,7 +74,7 @@ public:
     // 11. The bytes that the samples take under the present format.
     virtual std::int64_t SizeInBytes() = 0;
     // 12. The box from location 0 to the size, upper corner exclusive.
-    virtual System::Ref<Geometry::IBox> Bounds() = 0;
+    virtual System::Ref<Quilon_::Geometry::IBox> Bounds() = 0;
     // 13. Fires after the bitmap, its shape or the linked data changed,
     // unless the image's events are disabled.
     virtual ImageChangeEvent& Changed() = 0;
@@ -102,7 +102,7 @@ using ImageViewerInterpolationTypeEnum = ImageViewerInterpolationTypeEnumTag;
 namespace Image {
 
 using Ref = System::Ref<IImage>;
-using Size = System::Ref<Geometry::ICoordinates>;
+using Size = System::Ref<Quilon_::Geometry::ICoordinates>;
 using Format = System::Ref<IFormat>;
 
 // The overloads after a model make an image of the model's size and format
@@ -139,17 +139,17 @@ QUILON_API System::Pointer<Drawing::IPalette, 0> Palette(Ref image);
 QUILON_API void SetPalette(Ref image, System::Pointer<Drawing::IPalette, 0> palette);
 QUILON_API void SetPalette(Ref image, System::Ref<Drawing::IPalette> palette);
 
-QUILON_API System::Pointer<Geometry::IShapeSet, 0> ROI(Ref image);
+QUILON_API System::Pointer<Quilon_::Geometry::IShapeSet, 0> ROI(Ref image);
 // Names the set "ShapeSet.Name.ROI" before storing it; null removes it.
-QUILON_API void SetROI(Ref image, System::Pointer<Geometry::IShapeSet, 0> roi);
+QUILON_API void SetROI(Ref image, System::Pointer<Quilon_::Geometry::IShapeSet, 0> roi);
 // Stores the set as it is, without naming it.
-QUILON_API void SetROI(Ref image, System::Ref<Geometry::IShapeSet> roi);
+QUILON_API void SetROI(Ref image, System::Ref<Quilon_::Geometry::IShapeSet> roi);
 // A new set holding `shape`, stored as above.
-QUILON_API void SetROI(Ref image, System::Ref<Geometry::IShapeND> shape);
+QUILON_API void SetROI(Ref image, System::Ref<Quilon_::Geometry::IShapeND> shape);
 
-QUILON_API System::Pointer<Geometry::ICoordinates, 0> Origin(Ref image);
+QUILON_API System::Pointer<Quilon_::Geometry::ICoordinates, 0> Origin(Ref image);
 // Null removes the origin.
-QUILON_API void SetOrigin(Ref image, System::Pointer<Geometry::ICoordinates, 0> origin);
+QUILON_API void SetOrigin(Ref image, System::Pointer<Quilon_::Geometry::ICoordinates, 0> origin);
 
 // A single-band, non-complex view of the image's values: the intensity of a
 // colour image, the first band of a multi-band one, the magnitude of a

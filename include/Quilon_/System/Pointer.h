@@ -15,6 +15,8 @@
 #include "Quilon_/System/Interface.h"
 
 #include <cstddef>
+#include <cstdint>
+#include <cstring>
 #include <type_traits>
 #include <utility>
 
@@ -33,8 +35,10 @@ struct SourceLocation {
 };
 [[noreturn]] QUILON_API void RaiseNullAssignment(const Type& type, SourceLocation where);
 [[noreturn]] QUILON_API void RaiseNullAccess(const Type& type, SourceLocation where);
-[[noreturn]] QUILON_API void RaiseInterfaceNotSupported(const Type& type, Interface* source, SourceLocation where);
-[[noreturn]] QUILON_API void RaiseCloneableNotSupported(const Type& type, Interface* source, SourceLocation where);
+[[noreturn]] QUILON_API void RaiseInterfaceNotSupported(const Type& type, Interface* source,
+                                                        SourceLocation where);
+[[noreturn]] QUILON_API void RaiseCloneableNotSupported(const Type& type, Interface* source,
+                                                        SourceLocation where);
 // Asks `source` for a clone through ICloneable; the result carries one
 // reference for the caller, or is null when the source is not cloneable. A
 // Clone() that gives null is refused as a null assigned to a reference of
@@ -47,8 +51,50 @@ Interface* AsInterface(T* value) noexcept
     return value ? static_cast<Interface*>(value) : nullptr;
 }
 
+// The language's dynamic cast from Interface, remembered per thread.
+//
+// A dynamic cast between classes of different libraries compares type names
+// as strings, and costs more than an operator call. Its outcome depends only
+// on the class of the object: Interface is a virtual base of every
+// interface, so the distance from the Interface part of an object to its T
+// part is fixed by the object's class. That class is told by the table of
+// virtual functions the Interface part points to, and libraries are never
+// unloaded, so a table's address names one class for the life of the
+// process. Each thread keeps, per target interface, the last few outcomes
+// by table address: no lock, and a miss costs one dynamic cast as before.
+struct CastOutcome {
+    const void* table;
+    std::ptrdiff_t offset;
+};
+inline constexpr std::ptrdiff_t castNotSupported = PTRDIFF_MIN;
+
+template <class T>
+struct CastOutcomes {
+    static constexpr std::size_t size = 4;
+    static thread_local inline CastOutcome recent[size];
+};
+
+template <class T>
+T* CachedDynamicCast(Interface* source)
+{
+    const void* table;
+    std::memcpy(&table, static_cast<const void*>(source), sizeof table);
+    CastOutcome& outcome =
+        CastOutcomes<T>::recent[(reinterpret_cast<std::uintptr_t>(table) >> 4) % CastOutcomes<T>::size];
+    if (outcome.table == table) [[likely]] {
+        if (outcome.offset == castNotSupported)
+            return nullptr;
+        return reinterpret_cast<T*>(reinterpret_cast<char*>(source) + outcome.offset);
+    }
+    T* result = dynamic_cast<T*>(source);
+    outcome.offset =
+        result ? reinterpret_cast<char*>(result) - reinterpret_cast<char*>(source) : castNotSupported;
+    outcome.table = table;
+    return result;
+}
+
 // The interface cast without policy checks: FindDelegate first, then the
-// language's dynamic cast. Takes no reference.
+// dynamic cast. Takes no reference.
 template <class T>
 T* InterfaceCast(Interface* source)
 {
@@ -57,9 +103,9 @@ T* InterfaceCast(Interface* source)
     void* target = nullptr;
     bool exact = false;
     if (!source->FindDelegate(T::GetType(), target, exact))
-        return dynamic_cast<T*>(source);
+        return CachedDynamicCast<T>(source);
     if (!exact)
-        return dynamic_cast<T*>(static_cast<Interface*>(target));
+        return target ? CachedDynamicCast<T>(static_cast<Interface*>(target)) : nullptr;
     return static_cast<T*>(target);
 }
 } // namespace Detail

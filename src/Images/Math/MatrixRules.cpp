@@ -30,7 +30,7 @@ MatrixRef MatrixAt(const std::vector<System::Any>& arguments, std::int64_t index
 }
 
 // The number of bands of a size: 1 without the band axis.
-std::int64_t BandCount(const Ref<Geometry::ICoordinates>& size)
+std::int64_t BandCount(const Ref<Quilon_::Geometry::ICoordinates>& size)
 {
     return HasBand(size->Axes()) ? size->B() : 1;
 }
@@ -42,7 +42,7 @@ public:
 
     bool Apply(std::vector<System::Any>& arguments, RuleFailures& failures) override
     {
-        Ref<Geometry::ICoordinates> size = ImageAt(arguments, image)->Size();
+        Ref<Quilon_::Geometry::ICoordinates> size = ImageAt(arguments, image)->Size();
         MatrixRef m = MatrixAt(arguments, matrix);
         if (!HasBand(size->Axes()))
             return Refuse(failures, image, L"multi-band image expected");
@@ -79,22 +79,22 @@ public:
             return true;
 
         // A fresh output has no format worth keeping: take the input's.
-        Ref<IFormat> format =
-            Cloned<IFormat>(Geometry::Coordinates::IsNull(out->Size()) ? in->Format() : out->Format());
-        Ref<Geometry::ICoordinates> size = Cloned<Geometry::ICoordinates>(in->Size());
-        const Geometry::Axes axes = size->Axes();
+        Ref<IFormat> format = Cloned<IFormat>(
+            Quilon_::Geometry::Coordinates::IsNull(out->Size()) ? in->Format() : out->Format());
+        Ref<Quilon_::Geometry::ICoordinates> size = Cloned<Quilon_::Geometry::ICoordinates>(in->Size());
+        const Quilon_::Geometry::Axes axes = size->Axes();
         if (columns > 1) {
             // A colour format keeps its meaning only with one band per
             // component of its space.
             Pointer<Color::IColorFormat, 0> color(format);
             if (color && ComponentCount(*color) != columns)
                 format = Uniform(format, format->StorageOrder());
-            format->SetStorageOrder(StorageOrder::Add(format->StorageOrder(), Geometry::aB));
-            size->SetAxes(static_cast<unsigned char>(axes | Geometry::aB));
-            size->SetValue(Geometry::aB, columns);
+            format->SetStorageOrder(StorageOrder::Add(format->StorageOrder(), Quilon_::Geometry::aB));
+            size->SetAxes(static_cast<unsigned char>(axes | Quilon_::Geometry::aB));
+            size->SetValue(Quilon_::Geometry::aB, columns);
         } else {
-            format = Uniform(format, StorageOrder::Remove(format->StorageOrder(), Geometry::aB));
-            size->SetAxes(static_cast<unsigned char>(axes & ~Geometry::aB));
+            format = Uniform(format, StorageOrder::Remove(format->StorageOrder(), Quilon_::Geometry::aB));
+            size->SetAxes(static_cast<unsigned char>(axes & ~Quilon_::Geometry::aB));
         }
         out->Reshape(format, size, false, Padding(ptConstant, System::ToAny(std::int64_t(0))));
         return true;

@@ -3,10 +3,13 @@
 #include "Quilon_/Library.h"
 #include "Quilon_/System/Diagnostic/TraceManager.h"
 #include "Quilon_/System/Functions/FunctionRegistry.h"
+#include "Quilon_/System/Helper.h"
 #include "Quilon_/System/Type.h"
 
 #include <algorithm>
 #include <atomic>
+#include <regex>
+#include <utility>
 
 namespace Quilon_::System::Functions {
 
@@ -78,8 +81,7 @@ bool Function::ApplyRules(RuleTypeEnum type, const Implementation& implementatio
                           std::vector<Any>& arguments, Rules::RuleFailures& failures) const
 {
     static const Pointer<Rules::IRuleCollection, 0> none;
-    const auto& functionRules =
-        implementation.IgnoreFunctionRules() ? none : rules.Get(type);
+    const auto& functionRules = implementation.IgnoreFunctionRules() ? none : rules.Get(type);
     return ApplyRules(functionRules, implementation.Rules(type), arguments, failures);
 }
 
@@ -108,6 +110,48 @@ void Function::RaiseNotImplemented(const char* signature, const char* file, int 
 {
     System::Detail::Raise(signature, file, line, L"No implementation available for function '%1%' (%2%)",
                           name, std::string(signature));
+}
+
+std::vector<ArgumentDescription> Function::Parameters() const
+{
+    return {};
+}
+
+std::wstring Function::ResultType() const
+{
+    return L"void";
+}
+
+Any Function::Invoke(std::vector<Any>& arguments) const
+{
+    RaiseArgumentCount(0, arguments.size());
+}
+
+void Function::RaiseArgumentCount(std::size_t expected, std::size_t given) const
+{
+    QUILON_RAISE(L"Operator %1% takes %2% arguments, not %3%", name, static_cast<std::int64_t>(expected),
+                 static_cast<std::int64_t>(given));
+}
+
+void Function::RaiseNotInvocable() const
+{
+    QUILON_RAISE(L"Operator %1% cannot be called with boxed arguments", name);
+}
+
+std::wstring ArgumentTypeText(const std::type_info& type)
+{
+    static const std::pair<std::wregex, const wchar_t*> rewrites[] = {
+        {std::wregex(LR"(System::Template::Pointer<(?:\w+::)*(\w+),1>)"), L"Ref<$1>"},
+        {std::wregex(LR"(System::Template::Pointer<(?:\w+::)*(\w+),0>)"), L"Pointer<$1,0>"},
+        {std::wregex(LR"((\w)EnumTag\b)"), L"$1Enum"},
+        {std::wregex(LR"(unsigned __int64)"), L"uint64"},
+        {std::wregex(LR"(__int64)"), L"int64"},
+        {std::wregex(LR"(\bSystem::(Any|LIString)\b)"), L"$1"},
+    };
+    std::wstring text = Helper::TypeName(type);
+    for (const auto& [pattern, replacement] : rewrites)
+        text = std::regex_replace(text, pattern, replacement);
+    return text;
 }
 
 void Function::TraceSkipped(const Implementation& implementation, const Rules::RuleFailures& failures,

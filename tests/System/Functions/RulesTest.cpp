@@ -18,12 +18,12 @@ namespace {
 using namespace Quilon_;
 using namespace Quilon_::System;
 using namespace Quilon_::System::Functions::Rules;
-using Tests::CSwitch;
-using Tests::Kernel::CThing;
-using Tests::Kernel::IThing;
 using ::testing::ElementsAre;
 using ::testing::EndsWith;
 using ::testing::StartsWith;
+using Tests::CSwitch;
+using Tests::Kernel::CThing;
+using Tests::Kernel::IThing;
 
 using KernelRules = Tests::RaisingTest;
 using Object = Pointer<Interface, 0>;
@@ -66,8 +66,10 @@ TEST_F(KernelRules, DisableEventsWrapsOnlyWhatCanBeSilencedAndRestoresWhenTheArg
         EXPECT_FALSE(wrapper == Object(loud));
         EXPECT_TRUE(arguments[0].CastTo<Silenceable>() == loud);
         EXPECT_FALSE(arguments[0].CastTo<MaybeThing>());
-        EXPECT_THAT(Tests::RaisedMessage([&] { Pointer<IThing> thing(wrapper); }),
-                    StartsWith(L"Pointer <Quilon_::Tests::Kernel::IThing> : Interface not supported by instance of "));
+        EXPECT_THAT(
+            Tests::RaisedMessage([&] { Pointer<IThing> thing(wrapper); }),
+            StartsWith(
+                L"Pointer <Quilon_::Tests::Kernel::IThing> : Interface not supported by instance of "));
 
         // A second rule of the same call keeps the wrapper it finds: a new one
         // would switch the events back on when it replaced the old.
@@ -87,7 +89,7 @@ TEST_F(KernelRules, RulesOfSeveralArgumentsNeedAtLeastTwoIndexes)
               L"At least two argument indexes expected (1 provided)");
 }
 
-class CSilentRule : public Template::ObjectImpl<CSilentRule, IRule> {
+class CSilentRule : public System::Template::ObjectImpl<CSilentRule, IRule> {
 public:
     bool Apply(std::vector<Any>&, RuleFailures&) override { return true; }
 };
@@ -99,8 +101,9 @@ TEST_F(KernelRules, RulesArePresentedByClassAndArgumentsInTheOrderOfEvaluation)
         DisableEvents::New({0, 2}),
         DisableEvents::New(1),
     });
-    EXPECT_THAT(PresentRules(chain), ElementsAre(L"CCheckInterfaceSupported(0, Quilon_::System::IDisableEvents)",
-                                                 L"CDisableEvents({0, 2})", L"CDisableEvents({1})"));
+    EXPECT_THAT(PresentRules(chain),
+                ElementsAre(L"CCheckInterfaceSupported(0, Quilon_::System::IDisableEvents)",
+                            L"CDisableEvents({0, 2})", L"CDisableEvents({1})"));
     EXPECT_TRUE(PresentRules(nullptr).empty());
     EXPECT_TRUE(PresentRules(Tests::Rules({})).empty());
 

@@ -29,6 +29,7 @@
 #include <string>
 #include <tuple>
 #include <type_traits>
+#include <typeinfo>
 #include <utility>
 #include <vector>
 
@@ -68,6 +69,28 @@ QUILON_API void SetDiagnosticEnabled(bool enabled);
 } // namespace Function
 
 namespace Detail {
+
+// One parameter or the result of an operator as tools see it, generated
+// from the signature: the type as text ("Ref<IImage>", "double", "int64",
+// "Geometry::AxisEnum", "Any"), whether the implementation hands a value
+// back through it, and what a tool needs to make a value of it.
+struct ArgumentDescription {
+    std::wstring type;
+    // A non-const reference: the caller's value is replaced after the call.
+    bool output = false;
+    // The type without reference and const.
+    const std::type_info* valueType = nullptr;
+    // A default value of the type, boxed; null when it has none.
+    Any (*makeDefault)() = nullptr;
+    // For an enumeration, a number boxed as the enumeration; null otherwise.
+    Any (*fromInteger)(std::int64_t) = nullptr;
+};
+
+// The type as tools show it: the presentable name (Helper::TypeName) with
+// references written Ref<I> and Pointer<I,0> after the interface's own
+// name, the 64-bit integers as int64 and uint64, and enumerations by the
+// name code uses, without "Tag".
+QUILON_API std::wstring ArgumentTypeText(const std::type_info& type);
 
 // The four rule collections, by moment, of an operator or of one of its
 // implementations; remembers whether any is set, so that the call need not
@@ -133,6 +156,17 @@ public:
     // The number of implementations registered, for tools that list operators.
     virtual std::size_t ImplementationCount() const = 0;
 
+    // The parameters and the result type, as the signature declares them;
+    // for tools that list operators or call them from text.
+    virtual std::vector<ArgumentDescription> Parameters() const;
+    virtual std::wstring ResultType() const;
+    // Calls the operator, by the same path as a call from code, with boxed
+    // arguments, one per parameter, each read back as the parameter's type;
+    // the values handed back through output parameters replace their boxes.
+    // The result boxed, empty for void. Raises "Operator %1% takes %2%
+    // arguments, not %3%" on a wrong count.
+    virtual Any Invoke(std::vector<Any>& arguments) const;
+
     const std::wstring& Name() const { return name; }
     Pointer<IDescription, 0> Description() const { return description; }
     void SetDescription(Pointer<IDescription, 0> value) { description = std::move(value); }
@@ -171,6 +205,10 @@ protected:
     // [first, last] to it; raises when it is out of range.
     void SelectImplementation(std::size_t count, std::size_t& first, std::size_t& last) const;
     [[noreturn]] void RaiseNotImplemented(const char* signature, const char* file, int line) const;
+    [[noreturn]] void RaiseArgumentCount(std::size_t expected, std::size_t given) const;
+    // For an operator whose signature names an interface that is only
+    // declared where the operator is defined.
+    [[noreturn]] void RaiseNotInvocable() const;
     // Writes the skip to the debugger output while diagnostics are enabled.
     void TraceSkipped(const Implementation& implementation, const Rules::RuleFailures& failures,
                       const char* signature) const;
@@ -261,6 +299,29 @@ template <class A>
 inline constexpr bool IsOutput =
     std::is_lvalue_reference_v<A> && !std::is_const_v<std::remove_reference_t<A>>;
 
+// Whether a value of T can be boxed and read back where the operator is
+// defined: a reference to an interface that is only declared there cannot.
+template <class T>
+struct Boxable : std::true_type {
+};
+template <class I, int N>
+    struct Boxable<System::Template::Pointer<I, N>> : std::bool_constant < requires {
+    sizeof(I);
+} > {};
+
+template <class A>
+ArgumentDescription DescribeArgument()
+{
+    using Value = std::remove_cvref_t<A>;
+    ArgumentDescription description{ArgumentTypeText(typeid(Value)), IsOutput<A>, &typeid(Value)};
+    if constexpr (std::is_default_constructible_v<Value> && std::is_copy_constructible_v<Value> &&
+                  Boxable<Value>::value)
+        description.makeDefault = [] { return ToAny(Value{}); };
+    if constexpr (std::is_enum_v<Value>)
+        description.fromInteger = [](std::int64_t value) { return ToAny(static_cast<Value>(value)); };
+    return description;
+}
+
 } // namespace Detail
 
 namespace Template {
@@ -298,6 +359,25 @@ public:
         RaiseNotImplemented(QUILON_FUNCTION, __FILE__, __LINE__);
     }
     std::size_t ImplementationCount() const override { return implementations.size(); }
+
+    std::vector<Detail::ArgumentDescription> Parameters() const override
+    {
+        return {Detail::DescribeArgument<A>()...};
+    }
+    std::wstring ResultType() const override
+    {
+        return Detail::ArgumentTypeText(typeid(std::remove_cvref_t<R>));
+    }
+    Any Invoke(std::vector<Any>& arguments) const override
+    {
+        if (arguments.size() != sizeof...(A))
+            RaiseArgumentCount(sizeof...(A), arguments.size());
+        if constexpr ((Detail::Boxable<Detail::Unboxed<A>>::value && ... &&
+                       Detail::Boxable<std::remove_cvref_t<R>>::value))
+            return InvokeBoxed(arguments, std::index_sequence_for<A...>());
+        else
+            RaiseNotInvocable();
+    }
 
     // Registration puts the new implementation at the front: the one
     // registered last is tried first.
@@ -493,6 +573,22 @@ private:
             }
             box = ToAny(value);
         }
+    }
+
+    // The call of Invoke: through operator(), so that a call from text
+    // takes the path of a call from code.
+    template <std::size_t... I>
+    Any InvokeBoxed([[maybe_unused]] std::vector<Any>& boxed, std::index_sequence<I...>) const
+    {
+        [[maybe_unused]] std::tuple<Detail::Unboxed<A>...> values{
+            boxed[I].template CastTo<Detail::Unboxed<A>>()...};
+        Any result;
+        if constexpr (std::is_void_v<R>)
+            (*this)(std::forward<A>(std::get<I>(values))...);
+        else
+            result = ToAny((*this)(std::forward<A>(std::get<I>(values))...));
+        ((Detail::IsOutput<A> ? void(boxed[I] = ToAny(std::get<I>(values))) : void()), ...);
+        return result;
     }
 
     std::vector<Implementation> implementations;

@@ -56,16 +56,16 @@ private:
         // Sizes are copies: read them only when the word asks for a test.
         if (!(options & mcAxesIgnoringBand))
             return true;
-        const Geometry::Axes axesT = t->Size()->Axes();
-        const Geometry::Axes axesR = r->Size()->Axes();
+        const Quilon_::Geometry::Axes axesT = t->Size()->Axes();
+        const Quilon_::Geometry::Axes axesR = r->Size()->Axes();
         bool differ = false;
         if ((options & mcAxesExact) == mcAxesExact)
             differ = axesT != axesR;
         else if (options & mcAxesIgnoringBand)
-            differ = ((axesT ^ axesR) & ~Geometry::aB) != 0;
+            differ = ((axesT ^ axesR) & ~Quilon_::Geometry::aB) != 0;
         if (!differ)
             return true;
-        return Refuse(failures, image, L"Image axes mismatch: %1%", Geometry::AxesToString(axesT));
+        return Refuse(failures, image, L"Image axes mismatch: %1%", Quilon_::Geometry::AxesToString(axesT));
     }
 
     // The "contain" text goes with the test of equality and the "be" text

@@ -15,24 +15,25 @@ IImage* HeldImage(const System::Any& argument)
     return System::Pointer<IImage, 0>(*static_cast<const Object*>(value)).Get();
 }
 
-std::int64_t SpatialDimension(const System::Ref<Geometry::ICoordinates>& size)
+std::int64_t SpatialDimension(const System::Ref<Quilon_::Geometry::ICoordinates>& size)
 {
-    const Geometry::Axes axes = size->Axes();
+    const Quilon_::Geometry::Axes axes = size->Axes();
     std::int64_t dimension = size->AxisCount();
-    if (axes & Geometry::aT)
+    if (axes & Quilon_::Geometry::aT)
         --dimension;
-    if (axes & Geometry::aB)
+    if (axes & Quilon_::Geometry::aB)
         --dimension;
     return dimension;
 }
 
-System::Ref<Geometry::ICoordinates> WithoutBand(const System::Ref<Geometry::ICoordinates>& size)
+System::Ref<Quilon_::Geometry::ICoordinates>
+WithoutBand(const System::Ref<Quilon_::Geometry::ICoordinates>& size)
 {
-    const Geometry::Axes axes = size->Axes();
+    const Quilon_::Geometry::Axes axes = size->Axes();
     if (!HasBand(axes))
         return size;
-    System::Ref<Geometry::ICoordinates> copy = Cloned<Geometry::ICoordinates>(size);
-    copy->SetAxes(static_cast<unsigned char>(axes & ~Geometry::aB));
+    System::Ref<Quilon_::Geometry::ICoordinates> copy = Cloned<Quilon_::Geometry::ICoordinates>(size);
+    copy->SetAxes(static_cast<unsigned char>(axes & ~Quilon_::Geometry::aB));
     return copy;
 }
 

@@ -27,16 +27,17 @@ inline System::Ref<IImage> ImageAt(const std::vector<System::Any>& arguments, st
 // no object or an object that is no image. Never raises.
 IImage* HeldImage(const System::Any& argument);
 
-inline bool HasBand(Geometry::Axes axes)
+inline bool HasBand(Quilon_::Geometry::Axes axes)
 {
-    return (axes & Geometry::aB) != 0;
+    return (axes & Quilon_::Geometry::aB) != 0;
 }
 
 // The number of axes of `size` without the time and band axes.
-std::int64_t SpatialDimension(const System::Ref<Geometry::ICoordinates>& size);
+std::int64_t SpatialDimension(const System::Ref<Quilon_::Geometry::ICoordinates>& size);
 
 // A copy of `size` without the band axis; `size` itself when it has none.
-System::Ref<Geometry::ICoordinates> WithoutBand(const System::Ref<Geometry::ICoordinates>& size);
+System::Ref<Quilon_::Geometry::ICoordinates>
+WithoutBand(const System::Ref<Quilon_::Geometry::ICoordinates>& size);
 
 // A copy of an object that can be cloned; raises for one that cannot.
 template <class T>

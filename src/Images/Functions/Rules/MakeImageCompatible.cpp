@@ -22,7 +22,7 @@ namespace {
 
 using Detail::Cloned;
 using Detail::HasBand;
-using Geometry::Axes;
+using Quilon_::Geometry::Axes;
 using System::Any;
 using System::LIString;
 using System::NumericTypeEnum;
@@ -41,14 +41,14 @@ const LIString colorCategory(L"Image.Category.Color");
 // The region of interest that an output takes over from `image`: none for a
 // missing or empty one; an attribute of an object set is shared, since it
 // belongs to its set; any other set is copied.
-Pointer<Geometry::IShapeSet, 0> RoiOf(const Ref<IImage>& image)
+Pointer<Quilon_::Geometry::IShapeSet, 0> RoiOf(const Ref<IImage>& image)
 {
-    Pointer<Geometry::IShapeSet, 0> roi = Image::ROI(image);
+    Pointer<Quilon_::Geometry::IShapeSet, 0> roi = Image::ROI(image);
     if (!roi || roi->Count() == 0)
         return nullptr;
     if (Pointer<ObjectSets::IAttribute, 0>(roi))
         return roi;
-    return Cloned<Geometry::IShapeSet>(roi);
+    return Cloned<Quilon_::Geometry::IShapeSet>(roi);
 }
 
 // What the output is to become: a format and a size that start as those
@@ -56,13 +56,13 @@ Pointer<Geometry::IShapeSet, 0> RoiOf(const Ref<IImage>& image)
 // that changes nothing copies nothing.
 class Shape {
 public:
-    Shape(Ref<IFormat> format, Ref<Geometry::ICoordinates> size)
+    Shape(Ref<IFormat> format, Ref<Quilon_::Geometry::ICoordinates> size)
         : format(std::move(format)), size(std::move(size))
     {
     }
 
     IFormat& Format() const { return *format; }
-    Geometry::ICoordinates& Size() const { return *size; }
+    Quilon_::Geometry::ICoordinates& Size() const { return *size; }
 
     IFormat& FormatToChange()
     {
@@ -70,10 +70,10 @@ public:
             SetFormat(Cloned<IFormat>(format));
         return *format;
     }
-    Geometry::ICoordinates& SizeToChange()
+    Quilon_::Geometry::ICoordinates& SizeToChange()
     {
         if (!sizeOwned)
-            SetSize(Cloned<Geometry::ICoordinates>(size));
+            SetSize(Cloned<Quilon_::Geometry::ICoordinates>(size));
         return *size;
     }
     // A format or size of its own, or another image's, still to be copied.
@@ -82,7 +82,7 @@ public:
         format = std::move(value);
         formatOwned = owned;
     }
-    void SetSize(Ref<Geometry::ICoordinates> value, bool owned = true)
+    void SetSize(Ref<Quilon_::Geometry::ICoordinates> value, bool owned = true)
     {
         size = std::move(value);
         sizeOwned = owned;
@@ -94,7 +94,7 @@ public:
         FormatToChange();
         return format;
     }
-    Ref<Geometry::ICoordinates> SizeCopy()
+    Ref<Quilon_::Geometry::ICoordinates> SizeCopy()
     {
         SizeToChange();
         return size;
@@ -104,19 +104,20 @@ public:
 
 private:
     Ref<IFormat> format;
-    Ref<Geometry::ICoordinates> size;
+    Ref<Quilon_::Geometry::ICoordinates> size;
     bool formatOwned = false;
     bool sizeOwned = false;
 };
 
 // Whether two sizes have the same axes and values once the band axis is
 // left out of both: the equality of their copies without it.
-bool SameExtentIgnoringBand(Geometry::ICoordinates& a, Geometry::ICoordinates& b)
+bool SameExtentIgnoringBand(Quilon_::Geometry::ICoordinates& a, Quilon_::Geometry::ICoordinates& b)
 {
     const Axes axes = a.Axes();
-    if (((axes ^ b.Axes()) & ~Geometry::aB) != 0)
+    if (((axes ^ b.Axes()) & ~Quilon_::Geometry::aB) != 0)
         return false;
-    for (Geometry::AxisEnum axis : {Geometry::aX, Geometry::aY, Geometry::aZ, Geometry::aT})
+    for (Quilon_::Geometry::AxisEnum axis :
+         {Quilon_::Geometry::aX, Quilon_::Geometry::aY, Quilon_::Geometry::aZ, Quilon_::Geometry::aT})
         if ((axes & axis) && a.Value(axis) != b.Value(axis))
             return false;
     return true;
@@ -273,18 +274,18 @@ private:
         if (UsedInPlace(arguments, image))
             return;
         if (word & tpNewOrigin) {
-            Pointer<Geometry::ICoordinates, 0> origin = Image::Origin(first);
+            Pointer<Quilon_::Geometry::ICoordinates, 0> origin = Image::Origin(first);
             if (!Image::Origin(image) && origin)
-                Image::SetOrigin(image, Cloned<Geometry::ICoordinates>(origin));
+                Image::SetOrigin(image, Cloned<Quilon_::Geometry::ICoordinates>(origin));
         } else if (word & tpOrigin) {
-            Pointer<Geometry::ICoordinates, 0> origin = Image::Origin(first);
+            Pointer<Quilon_::Geometry::ICoordinates, 0> origin = Image::Origin(first);
             // A missing origin removes the output's.
-            Image::SetOrigin(
-                image, origin ? Pointer<Geometry::ICoordinates, 0>(Cloned<Geometry::ICoordinates>(origin))
-                              : Pointer<Geometry::ICoordinates, 0>());
+            Image::SetOrigin(image, origin ? Pointer<Quilon_::Geometry::ICoordinates, 0>(
+                                                 Cloned<Quilon_::Geometry::ICoordinates>(origin))
+                                           : Pointer<Quilon_::Geometry::ICoordinates, 0>());
         }
         if (word & tpNewROI) {
-            Pointer<Geometry::IShapeSet, 0> roi = Image::ROI(image);
+            Pointer<Quilon_::Geometry::IShapeSet, 0> roi = Image::ROI(image);
             if (roi && roi->Count() > 0)
                 Image::SetROI(image, RoiOf(first));
         } else if (word & tpROI) {
@@ -297,13 +298,13 @@ private:
     Shape Decide(const Ref<IImage>& image, const std::vector<Ref<IImage>>& images)
     {
         const Ref<IImage>& first = images.front();
-        const Ref<Geometry::ICoordinates> firstSize = first->Size();
-        const Ref<Geometry::ICoordinates> outputSize = image->Size();
+        const Ref<Quilon_::Geometry::ICoordinates> firstSize = first->Size();
+        const Ref<Quilon_::Geometry::ICoordinates> outputSize = image->Size();
         Shape shape(first->Format(), firstSize);
 
         NumericTypeEnum type = image->Format()->DataType();
         // An empty 8-bit image is a fresh output: it takes everything.
-        if (type == System::ntUInt8 && Geometry::Coordinates::Product(outputSize) == 0) {
+        if (type == System::ntUInt8 && Quilon_::Geometry::Coordinates::Product(outputSize) == 0) {
             type = shape.Format().DataType();
             shape.changed = true;
         }
@@ -335,10 +336,10 @@ private:
                 shape.changed = true;
             }
         } else if (options & mcAxesIgnoringBand) {
-            if (((firstAxes ^ outputAxes) & ~Geometry::aB) != 0) {
+            if (((firstAxes ^ outputAxes) & ~Quilon_::Geometry::aB) != 0) {
                 // The truth value of the condition, a mask of aX or of
                 // nothing, and not a union of axes: kept as designed.
-                const bool value = (firstAxes & ~Geometry::aB) != 0 || HasBand(outputAxes);
+                const bool value = (firstAxes & ~Quilon_::Geometry::aB) != 0 || HasBand(outputAxes);
                 shape.SizeToChange().SetAxes(value ? 1 : 0);
                 shape.changed = true;
             }
@@ -382,9 +383,9 @@ private:
         if (category == greyCategory || category == binaryCategory) {
             const Axes axes = shape.Size().Axes();
             if (HasBand(axes)) {
-                shape.SizeToChange().SetAxes(static_cast<unsigned char>(axes & ~Geometry::aB));
-                shape.SetFormat(
-                    UniformFormat::New(StorageOrder::Remove(shape.Format().StorageOrder(), Geometry::aB)));
+                shape.SizeToChange().SetAxes(static_cast<unsigned char>(axes & ~Quilon_::Geometry::aB));
+                shape.SetFormat(UniformFormat::New(
+                    StorageOrder::Remove(shape.Format().StorageOrder(), Quilon_::Geometry::aB)));
                 shape.Format().SetDataType(bandType);
             }
             if (shape.Size().Axes() != outputAxes)
@@ -395,8 +396,8 @@ private:
         } else if (category == colorCategory) {
             const Axes axes = shape.Size().Axes();
             if (!HasBand(axes)) {
-                Geometry::ICoordinates& size = shape.SizeToChange();
-                size.SetAxes(static_cast<unsigned char>(axes | Geometry::aB));
+                Quilon_::Geometry::ICoordinates& size = shape.SizeToChange();
+                size.SetAxes(static_cast<unsigned char>(axes | Quilon_::Geometry::aB));
                 size.SetB(3);
             }
             Ref<IFormat> outputFormat = image.Format();
@@ -404,8 +405,8 @@ private:
                 // Copied before a change, so that the output's own stays.
                 shape.SetFormat(outputFormat, false);
             } else {
-                shape.SetFormat(Color::UniformColorFormat::New(
-                    StorageOrder::BFirst(StorageOrder::Add(shape.Format().StorageOrder(), Geometry::aB))));
+                shape.SetFormat(Color::UniformColorFormat::New(StorageOrder::BFirst(
+                    StorageOrder::Add(shape.Format().StorageOrder(), Quilon_::Geometry::aB))));
                 shape.Format().SetDataType(bandType);
                 shape.changed = true;
             }

@@ -45,10 +45,11 @@ public:
             type = static_cast<NumericTypeEnum>(type + 1);
 
         // One band per spatial axis.
-        Ref<Geometry::ICoordinates> size = Detail::Cloned<Geometry::ICoordinates>(in->Size());
+        Ref<Quilon_::Geometry::ICoordinates> size =
+            Detail::Cloned<Quilon_::Geometry::ICoordinates>(in->Size());
         const std::int64_t dimension = Detail::SpatialDimension(size);
-        size->SetAxes(static_cast<unsigned char>(size->Axes() | Geometry::aB));
-        size->SetValue(Geometry::aB, dimension);
+        size->SetAxes(static_cast<unsigned char>(size->Axes() | Quilon_::Geometry::aB));
+        size->SetValue(Quilon_::Geometry::aB, dimension);
 
         if (!System::Equals(size, out->Size()) || UnfitForEdges(out->Format()->DataType())) {
             Ref<IFormat> format =

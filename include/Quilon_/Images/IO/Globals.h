@@ -1,0 +1,36 @@
+// The image file settings: where relative image names are looked up, and
+// the readers and writers of image files that the IO operators choose from.
+//
+//   Images::IO::Globals::BitmapReaders()->Add(myReader);   // this thread's list
+//   for (std::int64_t i = 0; i < Images::IO::Globals::BitmapWriters()->Count(); ++i)
+//       std::wcout << Images::IO::Globals::BitmapWriters()->Item(i)->Name() << L"\n";
+//
+// Each setting holds one value per thread: a thread's first read clones
+// what the main thread set (the implementation libraries fill it there at
+// start-up), so a thread can work with a list of formats of its own.
+#pragma once
+
+#include "Quilon_/System/GlobalVariable.h"
+#include "Quilon_/System/Pointer.h"
+
+namespace Quilon_::System::Collections {
+class IStringCollection;
+} // namespace Quilon_::System::Collections
+
+namespace Quilon_::Images::IO {
+class IBitmapReaderCollection;
+class IBitmapWriterCollection;
+} // namespace Quilon_::Images::IO
+
+namespace Quilon_::Images::IO::Globals {
+
+// Folders in which Read and Import look for a relative file name that is
+// not found from the working folder; none by default.
+QUILON_DECLARE_SETTING(ImageFolders, SetImageFolders, ClearImageFolders,
+                       System::Ref<System::Collections::IStringCollection>);
+QUILON_DECLARE_SETTING(BitmapReaders, SetBitmapReaders, ClearBitmapReaders,
+                       System::Ref<IBitmapReaderCollection>);
+QUILON_DECLARE_SETTING(BitmapWriters, SetBitmapWriters, ClearBitmapWriters,
+                       System::Ref<IBitmapWriterCollection>);
+
+} // namespace Quilon_::Images::IO::Globals

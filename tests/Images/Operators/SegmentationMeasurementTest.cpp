@@ -1,0 +1,317 @@
+// The thresholds and measurements of the reference library against values
+// worked out by hand: thresholds of several sample types, Otsu on a small
+// bimodal histogram, hysteresis by connectivity, labels from intervals;
+// range, histogram, area, bounding box, moments and volume; and the rule
+// chains that guard them.
+#include "Quilon_/Geometry/Box.h"
+#include "Quilon_/Images/Measurements/Functions.h"
+#include "Quilon_/Images/Segmentation/Functions.h"
+#include "Quilon_/Math/Interval.h"
+#include "Quilon_/Math/Moments.h"
+#include "Quilon_/Math/Range.h"
+#include "Quilon_/Measurements/Histogram.h"
+#include "Quilon_/System/String.h"
+
+#include "../../Support/BasicLibrary.h"
+#include "../../Support/InChildProcess.h"
+#include "../../Support/Raised.h"
+#include "SampleImages.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+namespace Quilon_::Tests::SegmentationMeasurementSuite {
+
+using namespace Quilon_::Images;
+namespace S = Quilon_::Images::Segmentation::Functions;
+namespace M = Quilon_::Images::Measurements::Functions;
+using Geometry::Axes;
+using ::testing::HasSubstr;
+using Mask = System::Pointer<IImage, 0>;
+
+const Axes row(static_cast<unsigned char>(Geometry::aX));
+
+// 255 where `set` holds 1.
+std::vector<double> Binary(std::vector<double> set)
+{
+    for (double& v : set)
+        v *= 255;
+    return set;
+}
+
+// ---- Thresholds -----------------------------------------------------------------
+
+TEST(SegmentationBasic, ThresholdsWriteEightBitBinaryImagesForEverySampleType)
+{
+    InChildProcess([] {
+        StartBasic();
+        const std::vector<double> values{-3, 0, 2, 5, 7, 120};
+        struct Case {
+            const char* name;
+            void (*run)(ImageRef, ImageRef);
+            std::vector<double> set;
+        };
+        const Case cases[] = {
+            {"interval [0, 5]",
+             [](ImageRef a, ImageRef b) { S::Threshold(a, b, ::Quilon_::Math::IntervalD::New(0.0, 5.0)); },
+             {0, 1, 1, 1, 0, 0}},
+            {"at or above 5", [](ImageRef a, ImageRef b) { S::Threshold(a, b, 5.0); }, {0, 0, 0, 1, 1, 1}},
+            {"one value [7, 7]",
+             [](ImageRef a, ImageRef b) {
+                 S::Threshold(a, b, ::Quilon_::Math::IntervalD::New(std::int64_t(7)));
+             },
+             {0, 0, 0, 0, 1, 0}},
+        };
+        for (const Case& c : cases)
+            for (System::NumericTypeEnum type : {System::ntInt8, System::ntInt16, System::ntInt32,
+                                                 System::ntInt64, System::ntFloat, System::ntDouble}) {
+                SCOPED_TRACE(std::string(c.name) + " " + System::ToAnsi(System::ToString(type)));
+                ImageRef binary = Image::New();
+                c.run(SampleImage(type, {6}, row, values), binary);
+                EXPECT_EQ(binary->Format()->DataType(), System::ntUInt8);
+                EXPECT_EQ(System::ToAnsi(Image::Category(binary).Value().Value()), "Image.Category.Binary");
+                EXPECT_EQ(SamplesOf(binary), Binary(c.set));
+            }
+
+        // NaN lies in no interval and above no value; 64-bit values keep
+        // their last digit.
+        ImageRef withNaN = SampleImage(System::ntFloat, {3}, row, {std::nan(""), 1, 2});
+        ImageRef set = Image::New();
+        S::Threshold(withNaN, set, -1e9);
+        EXPECT_EQ(SamplesOf(set), Binary({0, 1, 1}));
+        ImageRef big = SampleImage(System::ntUInt64, {2}, row, {});
+        ForEachSample<std::uint64_t>(
+            big, [n = std::uint64_t(0)](std::uint64_t& v) mutable { v = (std::uint64_t(1) << 62) + n++; });
+        S::Threshold(big, set, ::Quilon_::Math::IntervalD::New(std::ldexp(1.0, 62), std::ldexp(1.0, 62)));
+        EXPECT_EQ(SamplesOf(set), Binary({1, 0}));
+    });
+}
+
+TEST(SegmentationBasic, OtsuSplitsABimodalHistogramWhereTheBetweenClassVarianceIsGreatest)
+{
+    InChildProcess([] {
+        StartBasic();
+        // Six 0s, one 2, three 10s. Splitting after 0: 6 * 4 * (0 - 8)^2 =
+        // 1536; after 2: 7 * 3 * (2/7 - 10)^2 = 1981.7, the greater. The
+        // threshold is 2, the greatest value of the lower class.
+        const std::vector<double> values{0, 10, 0, 2, 0, 10, 0, 0, 10, 0};
+        for (System::NumericTypeEnum type :
+             {System::ntUInt8, System::ntUInt16, System::ntInt64, System::ntDouble}) {
+            SCOPED_TRACE(System::ToAnsi(System::ToString(type)));
+            ImageRef binary = Image::New();
+            double level = -1;
+            S::OtsuThreshold(SampleImage(type, {5, 2}, Axes::aXY, values), binary, Mask(), level);
+            EXPECT_EQ(level, 2.0);
+            EXPECT_EQ(SamplesOf(binary), Binary({0, 1, 0, 0, 0, 1, 0, 0, 1, 0}));
+        }
+
+        // Within a mask that leaves out the 2 and four 0s: 0 0 | 10 10 10.
+        ImageRef image = SampleImage(System::ntUInt8, {5, 2}, Axes::aXY, values);
+        ImageRef mask = SampleImage(System::ntUInt8, {5, 2}, Axes::aXY, {1, 1, 1, 0, 0, 1, 0, 0, 1, 0});
+        ImageRef binary = Image::New();
+        double level = -1;
+        S::OtsuThreshold(image, binary, Mask(mask), level);
+        EXPECT_EQ(level, 0.0);
+        EXPECT_EQ(SamplesOf(binary), Binary({0, 1, 0, 1, 0, 1, 0, 0, 1, 0}));
+
+        // One value: nothing above it.
+        S::OtsuThreshold(SampleImage(System::ntFloat, {3}, row, {4, 4, 4}), binary, Mask(), level);
+        EXPECT_EQ(level, 4.0);
+        EXPECT_EQ(SamplesOf(binary), Binary({0, 0, 0}));
+
+        // The entropy threshold sums the entropies of the two classes: after
+        // 0 that is 0 + (log 4 - 3 log 3 / 4) = 0.56, after 2 (log 7 -
+        // 6 log 6 / 7) + 0 = 0.41; it splits after 0.
+        S::EntropyThreshold(SampleImage(System::ntUInt8, {5, 2}, Axes::aXY, values), binary, Mask(), level);
+        EXPECT_EQ(level, 0.0);
+        EXPECT_EQ(SamplesOf(binary), Binary({0, 1, 0, 1, 0, 1, 0, 0, 1, 0}));
+    });
+}
+
+TEST(SegmentationBasic, HysteresisGrowsFromStrongSamplesThroughItsGraph)
+{
+    InChildProcess([] {
+        StartBasic();
+        // 9 is strong; the 5s joined to it stay, the lone 5s go.
+        ImageRef line = SampleImage(System::ntUInt8, {8}, row, {0, 5, 9, 5, 0, 5, 5, 0});
+        ImageRef binary = Image::New();
+        S::HysteresisThreshold(line, binary, 4.0, 8.0);
+        EXPECT_EQ(SamplesOf(binary), Binary({0, 1, 1, 1, 0, 0, 0, 0}));
+
+        // A weak sample touching the strong one by a corner: joined with 8
+        // neighbours, not with 4.
+        const std::vector<double> diagonal{9, 0, 0, 0, 5, 0, 0, 0, 5};
+        ImageRef plane = SampleImage(System::ntFloat, {3, 3}, Axes::aXY, diagonal);
+        S::HysteresisThreshold(plane, binary, 4.0, 8.0);
+        EXPECT_EQ(SamplesOf(binary), Binary({1, 0, 0, 0, 1, 0, 0, 0, 1}));
+        S::HysteresisThreshold(plane, binary, 4.0, 8.0, Geometry::pngSquare4);
+        EXPECT_EQ(SamplesOf(binary), Binary({1, 0, 0, 0, 0, 0, 0, 0, 0}));
+
+        // In a volume, a step along Z joins with 6 neighbours.
+        ImageRef volume = SampleImage(System::ntInt16, {2, 1, 3}, Axes::aXYZ, {9, 0, 5, 0, 5, 5});
+        S::HysteresisThreshold(volume, binary, 4.0, 8.0, Geometry::pngCubic6);
+        EXPECT_EQ(SamplesOf(binary), Binary({1, 0, 1, 0, 1, 1}));
+        EXPECT_THAT(
+            RaisedMessage([&] { S::HysteresisThreshold(plane, binary, 4.0, 8.0, Geometry::pngHexagonal6); }),
+            HasSubstr(L"Unsupported neighbourhood graph: pngHexagonal6"));
+    });
+}
+
+TEST(SegmentationBasic, MultiThresholdLabelsByTheFirstIntervalHolding)
+{
+    InChildProcess([] {
+        StartBasic();
+        using ::Quilon_::Math::IntervalD::New;
+        ImageRef labels = Image::New();
+        S::MultiThreshold(SampleImage(System::ntDouble, {6}, row, {0, 1, 2.5, 3, 9, 4}), labels,
+                          {New(1.0, 3.0), New(2.0, 5.0)});
+        EXPECT_EQ(labels->Format()->DataType(), System::ntUInt8);
+        EXPECT_EQ(System::ToAnsi(Image::Category(labels).Value().Value()), "Image.Category.Label");
+        EXPECT_EQ(SamplesOf(labels), (std::vector<double>{0, 1, 1, 1, 0, 2}));
+    });
+}
+
+TEST(SegmentationBasic, ChainsCheckTheSourceBeforeTheOutputIsMade)
+{
+    InChildProcess([] {
+        StartBasic();
+        ImageRef out = Image::New();
+        ImageRef bands = SampleImage(System::ntUInt8, {2, 2, 2}, Axes::aXYB, {});
+        EXPECT_THAT(RaisedMessage([&] { S::Threshold(bands, out, 1.0); }),
+                    HasSubstr(L"Single band image expected"));
+        ImageRef complexRow = SampleImage(System::ntComplexD, {2}, row, {1, 2});
+        EXPECT_THAT(RaisedMessage([&] { S::OtsuThreshold(complexRow, out, Mask()); }),
+                    HasSubstr(L"scalar type expected"));
+        EXPECT_TRUE(out->IsEmpty());
+        // Only three operators of the family have no rule at all.
+        for (const auto* rules :
+             {&S::RegionGrow.Overload<0>().AllRules(), &S::Clusters.Overload<0>().AllRules(),
+              &S::AdaptivePercentileThreshold.Overload<2>().AllRules()})
+            for (const auto& collection : *rules)
+                EXPECT_FALSE(collection);
+        EXPECT_TRUE(S::AdaptivePercentileThreshold.Overload<0>().Rules(System::Functions::rtMake));
+    });
+}
+
+// ---- Measurements -----------------------------------------------------------------
+
+TEST(MeasurementsBasic, RangeAndHistogramCountEverySampleOnce)
+{
+    InChildProcess([] {
+        StartBasic();
+        const std::vector<double> values{3, 250, 3, 0, 7, 250};
+        for (System::NumericTypeEnum type :
+             {System::ntUInt8, System::ntInt32, System::ntUInt64, System::ntFloat}) {
+            SCOPED_TRACE(System::ToAnsi(System::ToString(type)));
+            ImageRef image = SampleImage(type, {3, 2}, Axes::aXY, values);
+            System::Ref<::Quilon_::Math::IRangeD> range = M::Range(image);
+            EXPECT_EQ(range->Minimum(), 0.0);
+            EXPECT_EQ(range->Maximum(), 250.0);
+            // Five bins of width 50 over [0, 250]: the last also takes 250.
+            auto histogram = M::Histogram(image, 5, ::Quilon_::Math::RangeD::New(0.0, 250.0));
+            EXPECT_EQ(histogram->Counts(), (std::vector<std::int64_t>{4, 0, 0, 0, 2}));
+        }
+        // One bin per value for 8 bits.
+        auto bytes = M::Histogram(SampleImage(System::ntUInt8, {3, 2}, Axes::aXY, values));
+        const std::vector<std::int64_t> counts = bytes->Counts();
+        ASSERT_EQ(counts.size(), 256u);
+        EXPECT_EQ(counts[0], 1);
+        EXPECT_EQ(counts[3], 2);
+        EXPECT_EQ(counts[250], 2);
+        EXPECT_EQ(bytes->Total(), 6);
+
+        // NaN is left out; within a mask only the masked samples count.
+        ImageRef floats = SampleImage(System::ntFloat, {4}, row, {std::nan(""), -2, 5, 1});
+        EXPECT_EQ(M::Range(floats)->Minimum(), -2.0);
+        ImageRef mask = SampleImage(System::ntUInt8, {4}, row, {1, 0, 1, 1});
+        System::Ref<::Quilon_::Math::IRangeD> masked = M::Range(floats, Mask(mask));
+        EXPECT_EQ(masked->Minimum(), 1.0);
+        EXPECT_EQ(masked->Maximum(), 5.0);
+        ImageRef empty = SampleImage(System::ntUInt8, {4}, row, {});
+        EXPECT_EQ(M::Range(floats, Mask(empty))->Maximum(), 0.0);
+    });
+}
+
+TEST(MeasurementsBasic, AreaBoundingBoxAndObjectsOfABinaryVolume)
+{
+    InChildProcess([] {
+        StartBasic();
+        // Set samples at (1, 0, 1) and (2, 1, 2) of a 4 x 2 x 3 volume.
+        std::vector<double> values(24, 0);
+        values[1 + 4 * (0 + 2 * 1)] = 1;
+        values[2 + 4 * (1 + 2 * 2)] = 1;
+        ImageRef binary = Image::New();
+        S::Threshold(SampleImage(System::ntUInt16, {4, 2, 3}, Axes::aXYZ, values), binary, 1.0);
+        double area = 0;
+        M::Area(binary, area);
+        EXPECT_EQ(area, 2.0);
+        System::Pointer<Geometry::IBox, 0> box;
+        M::BoundingBox(binary, box);
+        ASSERT_TRUE(box);
+        EXPECT_EQ(box->Axes(), Axes::aXYZ);
+        EXPECT_EQ(box->Lower()->Value(Geometry::aX), 1);
+        EXPECT_EQ(box->Lower()->Value(Geometry::aZ), 1);
+        EXPECT_EQ(box->Upper()->Value(Geometry::aX), 3);
+        EXPECT_EQ(box->Upper()->Value(Geometry::aY), 2);
+        EXPECT_EQ(box->Upper()->Value(Geometry::aZ), 3);
+
+        // The two touch only by a corner: one object with 26 neighbours,
+        // two with 6.
+        double objects = 0;
+        M::ObjectCount(binary, objects);
+        EXPECT_EQ(objects, 1.0);
+        M::ObjectCount(binary, Geometry::pngCubic6, objects);
+        EXPECT_EQ(objects, 2.0);
+
+        S::Threshold(SampleImage(System::ntUInt8, {3}, row, {}), binary, 1.0);
+        M::BoundingBox(binary, box);
+        EXPECT_FALSE(box);
+        M::ObjectCount(binary, objects);
+        EXPECT_EQ(objects, 0.0);
+
+        // A grey image is no binary image.
+        ImageRef grey = SampleImage(System::ntUInt8, {3}, row, {1, 2, 3});
+        EXPECT_THAT(RaisedMessage([&] { M::Area(grey, area); }), HasSubstr(L"Image.Category.Binary"));
+    });
+}
+
+TEST(MeasurementsBasic, MomentsAndVolumeAreGivenPerBand)
+{
+    InChildProcess([] {
+        StartBasic();
+        // Band 0: 1 2 3 6 (mean 3, variance 3.5); band 1: constant 4.
+        ImageRef image = SampleImage(System::ntInt16, {2, 2, 2}, Axes::aXYB, {1, 2, 3, 6, 4, 4, 4, 4});
+        const std::vector<::Quilon_::Math::Moments> moments = M::Moments(image);
+        ASSERT_EQ(moments.size(), 2u);
+        EXPECT_EQ(moments[0].Minimum(), 1.0);
+        EXPECT_EQ(moments[0].Maximum(), 6.0);
+        EXPECT_DOUBLE_EQ(moments[0].Mean(), 3.0);
+        EXPECT_DOUBLE_EQ(moments[0].StandardDeviation(), std::sqrt(3.5));
+        // Third central moment (-8 - 1 + 0 + 27) / 4 = 4.5; fourth (16 + 1 + 0 + 81) / 4 = 24.5.
+        EXPECT_NEAR(moments[0].Skewness(), 4.5 / std::pow(3.5, 1.5), 1e-12);
+        EXPECT_NEAR(moments[0].Kurtosis(), 24.5 / (3.5 * 3.5), 1e-12);
+        EXPECT_EQ(moments[1].Mean(), 4.0);
+        EXPECT_EQ(moments[1].StandardDeviation(), 0.0);
+        EXPECT_EQ(moments[1].Skewness(), 0.0);
+
+        // Within a binary mask of the plane: samples 2 and 6 of band 0.
+        ImageRef mask = Image::New();
+        S::Threshold(SampleImage(System::ntUInt8, {2, 2}, Axes::aXY, {0, 1, 0, 1}), mask, 1.0);
+        const auto masked = M::Moments(image, mask);
+        EXPECT_DOUBLE_EQ(masked[0].Mean(), 4.0);
+        EXPECT_DOUBLE_EQ(masked[0].StandardDeviation(), 2.0);
+
+        // Weights 1 1 1 3 give the mean (1 + 2 + 3 + 18) / 6 = 4.
+        ImageRef weights = SampleImage(System::ntFloat, {2, 2, 2}, Axes::aXYB, {1, 1, 1, 3, 1, 1, 1, 3});
+        EXPECT_DOUBLE_EQ(M::Moments(image, weights, Mask())[0].Mean(), 4.0);
+
+        std::vector<double> sums;
+        M::Volume(image, sums);
+        EXPECT_EQ(sums, (std::vector<double>{12, 16}));
+    });
+}
+
+} // namespace Quilon_::Tests::SegmentationMeasurementSuite

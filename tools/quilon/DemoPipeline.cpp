@@ -1,0 +1,240 @@
+// The pipeline of `quilon demo`: a synthetic grey image of bright blobs,
+// some of them rings, on a noisy background, written as PNG and read back,
+// then smoothed, thresholded, opened and hole-filled, and written again.
+// Each step prints its time.
+//
+// The operators are looked up by name and signature in the registry rather
+// than called through their headers, so that the demo runs with whatever
+// the loaded libraries implement: a step whose operator has no
+// implementation is skipped and the next one goes on with the image as it is.
+#include "Commands.h"
+#include "Progress.h"
+
+#include "Quilon_/Geometry/Coordinates.h"
+#include "Quilon_/Geometry/StructuringElement.h"
+#include "Quilon_/Images/Format.h"
+#include "Quilon_/Images/Image.h"
+#include "Quilon_/Images/StorageOrder.h"
+#include "Quilon_/System/Functions/Function.h"
+#include "Quilon_/System/Functions/FunctionRegistry.h"
+#include "Quilon_/System/ProgressContext.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+#include <cstdint>
+#include <cstdio>
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <system_error>
+
+namespace Quilon_::Tool {
+
+namespace {
+
+using namespace Quilon_::Images;
+using System::Ref;
+
+using ImageRef = Ref<IImage>;
+using FileOperator = void(ImageRef, const std::wstring&);
+
+constexpr std::int64_t sampleSide = 256;
+
+// The operator of `name` with exactly this signature, if it has an
+// implementation.
+template <class Signature>
+const System::Functions::Template::Function<Signature*>* FindOperator(const std::wstring& name)
+{
+    using Operator = System::Functions::Template::Function<Signature*>;
+    for (const auto& entry : System::Functions::FunctionRegistry::Entries()) {
+        if (entry.name != name)
+            continue;
+        if (const auto* found = dynamic_cast<const Operator*>(entry.function);
+            found && found->ImplementationCount())
+            return found;
+    }
+    return nullptr;
+}
+
+// Where the demo writes: `demo` beside the build's bin folder, so that a
+// run from the source tree leaves nothing in it.
+std::filesystem::path OutputFolder()
+{
+    std::error_code error;
+    std::filesystem::path executable = std::filesystem::read_symlink("/proc/self/exe", error);
+    std::filesystem::path folder = error ? std::filesystem::temp_directory_path() / "quilon-demo"
+                                         : executable.parent_path().parent_path() / "demo";
+    std::filesystem::create_directories(folder, error);
+    return folder;
+}
+
+// A few hundred grey levels of noise from a fixed seed, so that every run
+// draws the same image.
+class Noise {
+public:
+    double Next()
+    {
+        m_state = m_state * 6364136223846793005ull + 1442695040888963407ull;
+        return static_cast<double>(m_state >> 40) / static_cast<double>(1ull << 24) - 0.5;
+    }
+
+private:
+    std::uint64_t m_state = 42;
+};
+
+struct Blob {
+    double x, y, radius;
+    bool ring;
+};
+
+ImageRef MakeSample()
+{
+    Ref<IFormat> format = UniformFormat::New(StorageOrder::New(L"XY"));
+    ImageRef image =
+        Image::New(Geometry::Coordinates::New(sampleSide, sampleSide, Geometry::Axes::aXY), format);
+    Image::SetCategory(image, picGrey, false);
+    const Blob blobs[] = {{50, 50, 22, true},   {130, 60, 16, false}, {200, 45, 25, true},
+                          {60, 140, 14, false}, {140, 150, 30, true}, {215, 140, 12, false},
+                          {45, 215, 18, false}, {130, 220, 20, true}, {210, 210, 15, false}};
+    Ref<IBitmap> bitmap = image->Bitmap();
+    const std::vector<std::int64_t> strides = bitmap->Strides();
+    auto* samples = static_cast<std::uint8_t*>(bitmap->Memory()->Data()) + bitmap->Origin();
+    Noise noise;
+    // Drawing reports line by line, as an operator of the library would.
+    System::Pointer<System::IProgressContext, 0> progress = System::ProgressContext::CreateChild(1);
+    for (std::int64_t y = 0; y < sampleSide; ++y) {
+        for (std::int64_t x = 0; x < sampleSide; ++x) {
+            double value = 60.0;
+            for (const Blob& blob : blobs) {
+                const double distance = std::hypot(x - blob.x, y - blob.y);
+                const bool inside = distance < blob.radius && !(blob.ring && distance < blob.radius * 0.5);
+                if (inside)
+                    value = 170.0;
+            }
+            // Single bright specks, for the opening to remove.
+            if ((x * 7 + y * 13) % 409 == 0)
+                value = 200.0;
+            value += 50.0 * noise.Next();
+            samples[x * strides[0] + y * strides[1]] =
+                static_cast<std::uint8_t>(std::clamp(value, 0.0, 255.0));
+        }
+        if (progress)
+            progress->SetValue(static_cast<double>(y + 1) / sampleSide);
+    }
+    return image;
+}
+
+std::int64_t CountSet(const ImageRef& image)
+{
+    if (image->Format()->DataType() != System::ntUInt8 || image->Dimension() != 2)
+        return -1;
+    Ref<IBitmap> bitmap = image->Bitmap();
+    const std::vector<std::int64_t> strides = bitmap->Strides();
+    Ref<Geometry::ICoordinates> size = image->Size();
+    const std::int64_t width = size->X(), height = size->Y();
+    const auto* samples = static_cast<const std::uint8_t*>(bitmap->Memory()->Data()) + bitmap->Origin();
+    std::int64_t count = 0;
+    for (std::int64_t y = 0; y < height; ++y)
+        for (std::int64_t x = 0; x < width; ++x)
+            count += samples[x * strides[0] + y * strides[1]] != 0;
+    return count;
+}
+
+// Runs one step under a progress bar; false when it was cancelled or
+// failed, which ends the pipeline.
+bool RunStep(const char* title, const std::string& detail, const std::function<void(ProgressScope&)>& work)
+{
+    const auto start = std::chrono::steady_clock::now();
+    try {
+        ProgressScope progress(System::Detail::ToStringLenient(title));
+        work(progress);
+        progress.Checkpoint();
+    } catch (const System::Pointer<System::IException, 1>& failure) {
+        if (IsCancellation(failure)) {
+            std::printf("  %-14s cancelled\n", title);
+            return false;
+        }
+        std::printf("  %-14s failed: %ls\n", title, failure->Message().c_str());
+        return false;
+    }
+    const std::chrono::duration<double, std::milli> took = std::chrono::steady_clock::now() - start;
+    std::printf("  %-14s %-40s %8.2f ms\n", title, detail.c_str(), took.count());
+    return true;
+}
+
+void Skip(const char* title, const char* why)
+{
+    std::printf("  %-14s skipped: %s\n", title, why);
+}
+
+// A step from `current` to a fresh image through an (input, output, ...)
+// operator; the result becomes the current image.
+template <class Signature, class... Rest>
+bool Transform(const char* title, const wchar_t* name, const std::string& detail, ImageRef& current,
+               const Rest&... rest)
+{
+    const auto* found = FindOperator<Signature>(name);
+    if (!found) {
+        Skip(title, "no implementation");
+        return true;
+    }
+    ImageRef output = Image::New();
+    if (!RunStep(title, detail, [&](ProgressScope&) { (*found)(current, output, rest...); }))
+        return false;
+    current = output;
+    return true;
+}
+
+} // namespace
+
+void RunPipeline()
+{
+    const std::filesystem::path folder = OutputFolder();
+    const std::wstring samplePath = (folder / "sample.png").wstring();
+    const std::wstring resultPath = (folder / "result.png").wstring();
+    std::printf("\npipeline on a %lld x %lld sample, files in %s:\n", static_cast<long long>(sampleSide),
+                static_cast<long long>(sampleSide), folder.c_str());
+
+    ImageRef image;
+    if (!RunStep("sample", "grey blobs and rings with noise", [&](ProgressScope&) { image = MakeSample(); }))
+        return;
+    const auto* write = FindOperator<FileOperator>(L"Quilon_::Images::IO::Functions::Write");
+    const auto* read = FindOperator<FileOperator>(L"Quilon_::Images::IO::Functions::Read");
+    if (write && read) {
+        if (!RunStep("write sample", "sample.png", [&](ProgressScope&) { (*write)(image, samplePath); }))
+            return;
+        ImageRef loaded = Image::New();
+        if (!RunStep("read", "sample.png", [&](ProgressScope&) { (*read)(loaded, samplePath); }))
+            return;
+        image = loaded;
+    } else {
+        Skip("write, read", "no PNG reader and writer; the sample stays in memory");
+    }
+
+    using Element = Ref<Geometry::IStructuringElement>;
+    if (!Transform<void(ImageRef, ImageRef, double)>(
+            "Gaussian", L"Quilon_::Images::Filtering::Functions::Gaussian", "sigma 2", image, 2.0))
+        return;
+    if (!Transform<void(ImageRef, ImageRef, System::Pointer<IImage, 0>)>(
+            "OtsuThreshold", L"Quilon_::Images::Segmentation::Functions::OtsuThreshold", "whole image", image,
+            System::Pointer<IImage, 0>()))
+        return;
+    const std::int64_t thresholded = CountSet(image);
+    const Element disk = Geometry::StructuringElement::New(Geometry::pseDisk, 2.0);
+    if (!Transform<void(ImageRef, ImageRef, Element)>(
+            "Open", L"Quilon_::Images::Morphology::OpeningClosing::Functions::Open", "disk of radius 2",
+            image, disk))
+        return;
+    if (!Transform<void(ImageRef, ImageRef)>(
+            "HoleFill", L"Quilon_::Images::Morphology::Geodesy::Functions::HoleFill", "", image))
+        return;
+    const std::int64_t filled = CountSet(image);
+    if (thresholded >= 0 && filled >= 0)
+        std::printf("  foreground: %lld samples after the threshold, %lld after opening and filling\n",
+                    static_cast<long long>(thresholded), static_cast<long long>(filled));
+    if (write)
+        RunStep("write", "result.png", [&](ProgressScope&) { (*write)(image, resultPath); });
+}
+
+} // namespace Quilon_::Tool
