@@ -28,7 +28,7 @@ TSAN_ENV := TSAN_OPTIONS=halt_on_error=1:second_deadlock_stack=1
 
 # configure,<folder>,<extra cmake arguments>
 # The make folders build the core, the tool and the tests in batches of
-# sources (unity build), which halves a clean build; UNITY=OFF for a folder
+# sources (unity build), which is fastest for a clean build; UNITY=OFF for a folder
 # in which single files are edited and rebuilt.
 UNITY ?= ON
 configure = $(CMAKE) -S . -B $(1) -G Ninja -DCMAKE_BUILD_TYPE=$(BUILD_TYPE) -DQUILON_UNITY_BUILD=$(UNITY) $(2)

@@ -60,8 +60,8 @@ void RestoreInterruptHandler()
 // The root of the tree while the tool runs an operator: it adds up what the
 // children pass on and draws the bar, at most ten times a second and on
 // each whole percent.
-class CBarContext
-    : public Template::ObjectImpl<CBarContext, IProgressContext, Template::IDestructionEventsImpl> {
+class CBarContext : public System::Template::ObjectImpl<CBarContext, IProgressContext,
+                                                        System::Template::IDestructionEventsImpl> {
 public:
     CBarContext(const std::wstring& title, std::FILE* out)
         : m_text(title), m_out(isatty(fileno(out)) ? out : nullptr)

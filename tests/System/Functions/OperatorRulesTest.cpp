@@ -24,11 +24,11 @@ using namespace Quilon_;
 using namespace Quilon_::System;
 using namespace Quilon_::System::Functions;
 using namespace Quilon_::System::Functions::Rules;
+using ::testing::ElementsAre;
 using Tests::Chain;
 using Tests::CSwitch;
 using Tests::RaisedMessage;
 using Tests::RulesPlugin::ProbeOperator;
-using ::testing::ElementsAre;
 
 Pointer<IDisableEvents> Switch(bool disabled = false)
 {
@@ -41,6 +41,16 @@ Pointer<IRule> Implements(std::int64_t index, const Type& type)
 }
 
 const Type& events = IDisableEvents::GetType();
+
+// The suite loads the rules plug-in, which starts the toolkit; the program
+// shuts it down after its last test, as a program that starts it must, so
+// that what the start-up made (the core's operator chains among it) is
+// released before the leak check at exit.
+class ShutDownAfterTheLastTest : public ::testing::Environment {
+public:
+    void TearDown() override { Library::Finalize(); }
+};
+const auto* const shutDown = ::testing::AddGlobalTestEnvironment(new ShutDownAfterTheLastTest);
 
 class OperatorRules : public Tests::RaisingTest {
 protected:
@@ -89,7 +99,8 @@ TEST_F(OperatorRules, TheCallerGetsTheFirstComplaintOfTheImplementationTriedLast
 {
     probe->SetRules(rtCheck, Chain({Implements(0, events)}));
     Own(*probe, L"Eager").SetRules(rtPreExecute, Chain({Implements(1, IRuleCollection::GetType())}));
-    Own(*probe, L"Careful").SetRules(rtCheck, Chain({Implements(1, IRule::GetType()), Implements(0, events)}));
+    Own(*probe, L"Careful")
+        .SetRules(rtCheck, Chain({Implements(1, IRule::GetType()), Implements(0, events)}));
 
     auto* target = new CSwitch;
     Pointer<IDisableEvents> held(target);
@@ -109,7 +120,8 @@ TEST_F(OperatorRules, SilencedArgumentsAreHeardAgainAfterSuccessFailureAndNestin
     probe->SetRules(rtPreExecute, Chain({DisableEvents::New(0)}));
     auto seenByPost = std::make_shared<std::vector<bool>>();
     probe->SetRules(rtPostExecute, Tests::Rules({[seenByPost](std::vector<Any>& arguments, RuleFailures&) {
-                        seenByPost->push_back(arguments[0].CastTo<Pointer<IDisableEvents>>()->EventsDisabled());
+                        seenByPost->push_back(
+                            arguments[0].CastTo<Pointer<IDisableEvents>>()->EventsDisabled());
                         return true;
                     }}));
     Pointer<IDisableEvents> target = Switch(), source = Switch(), off = Switch(true);
@@ -118,7 +130,8 @@ TEST_F(OperatorRules, SilencedArgumentsAreHeardAgainAfterSuccessFailureAndNestin
     EXPECT_FALSE(target->EventsDisabled());
     EXPECT_FALSE(source->EventsDisabled());
 
-    EXPECT_EQ((*probe)(target, source, 2), L"Eager: silent/silent; Eager: silent/silent; Eager: silent/silent");
+    EXPECT_EQ((*probe)(target, source, 2),
+              L"Eager: silent/silent; Eager: silent/silent; Eager: silent/silent");
     EXPECT_FALSE(target->EventsDisabled());
     EXPECT_THAT(*seenByPost, ElementsAre(true, true, true, true)) << "post rules run before the arguments go";
 

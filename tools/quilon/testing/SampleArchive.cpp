@@ -45,5 +45,6 @@ int main(int argc, char** argv)
         SaveBytes(folder + "/sample.qba", bytes->Data(), static_cast<std::size_t>(bytes->Size()));
         SaveBytes(folder + "/truncated.qba", bytes->Data(), static_cast<std::size_t>(bytes->Size() - 3));
     }
+    Quilon_::Library::Finalize();
     return 0;
 }
