@@ -3,20 +3,22 @@
 // then smoothed, thresholded, opened and hole-filled, and written again.
 // Each step prints its time.
 //
-// The operators are looked up by name and signature in the registry rather
-// than called through their headers, so that the demo runs with whatever
-// the loaded libraries implement: a step whose operator has no
-// implementation is skipped and the next one goes on with the image as it is.
+// The operators are called through their headers, as an application calls
+// them; a step whose operator no loaded library implements is skipped, and
+// the next one goes on with the image as it is.
 #include "Commands.h"
 #include "Progress.h"
 
 #include "Quilon_/Geometry/Coordinates.h"
 #include "Quilon_/Geometry/StructuringElement.h"
+#include "Quilon_/Images/Filtering/Functions.h"
 #include "Quilon_/Images/Format.h"
+#include "Quilon_/Images/IO/Functions.h"
 #include "Quilon_/Images/Image.h"
+#include "Quilon_/Images/Morphology/Geodesy/Functions.h"
+#include "Quilon_/Images/Morphology/OpeningClosing/Functions.h"
+#include "Quilon_/Images/Segmentation/Functions.h"
 #include "Quilon_/Images/StorageOrder.h"
-#include "Quilon_/System/Functions/Function.h"
-#include "Quilon_/System/Functions/FunctionRegistry.h"
 #include "Quilon_/System/ProgressContext.h"
 
 #include <algorithm>
@@ -37,25 +39,8 @@ using namespace Quilon_::Images;
 using System::Ref;
 
 using ImageRef = Ref<IImage>;
-using FileOperator = void(ImageRef, const std::wstring&);
 
 constexpr std::int64_t sampleSide = 256;
-
-// The operator of `name` with exactly this signature, if it has an
-// implementation.
-template <class Signature>
-const System::Functions::Template::Function<Signature*>* FindOperator(const std::wstring& name)
-{
-    using Operator = System::Functions::Template::Function<Signature*>;
-    for (const auto& entry : System::Functions::FunctionRegistry::Entries()) {
-        if (entry.name != name)
-            continue;
-        if (const auto* found = dynamic_cast<const Operator*>(entry.function);
-            found && found->ImplementationCount())
-            return found;
-    }
-    return nullptr;
-}
 
 // Where the demo writes: `demo` beside the build's bin folder, so that a
 // run from the source tree leaves nothing in it.
@@ -170,17 +155,16 @@ void Skip(const char* title, const char* why)
 
 // A step from `current` to a fresh image through an (input, output, ...)
 // operator; the result becomes the current image.
-template <class Signature, class... Rest>
-bool Transform(const char* title, const wchar_t* name, const std::string& detail, ImageRef& current,
+template <class Operator, class... Rest>
+bool Transform(const char* title, const Operator& step, const std::string& detail, ImageRef& current,
                const Rest&... rest)
 {
-    const auto* found = FindOperator<Signature>(name);
-    if (!found) {
+    if (!step.CheckImplemented(false)) {
         Skip(title, "no implementation");
         return true;
     }
     ImageRef output = Image::New();
-    if (!RunStep(title, detail, [&](ProgressScope&) { (*found)(current, output, rest...); }))
+    if (!RunStep(title, detail, [&](ProgressScope&) { step(current, output, rest...); }))
         return false;
     current = output;
     return true;
@@ -199,13 +183,14 @@ void RunPipeline()
     ImageRef image;
     if (!RunStep("sample", "grey blobs and rings with noise", [&](ProgressScope&) { image = MakeSample(); }))
         return;
-    const auto* write = FindOperator<FileOperator>(L"Quilon_::Images::IO::Functions::Write");
-    const auto* read = FindOperator<FileOperator>(L"Quilon_::Images::IO::Functions::Read");
-    if (write && read) {
-        if (!RunStep("write sample", "sample.png", [&](ProgressScope&) { (*write)(image, samplePath); }))
+    const bool files =
+        IO::Functions::Write.CheckImplemented(false) && IO::Functions::Read.CheckImplemented(false);
+    if (files) {
+        if (!RunStep("write sample", "sample.png",
+                     [&](ProgressScope&) { IO::Functions::Write(image, samplePath); }))
             return;
         ImageRef loaded = Image::New();
-        if (!RunStep("read", "sample.png", [&](ProgressScope&) { (*read)(loaded, samplePath); }))
+        if (!RunStep("read", "sample.png", [&](ProgressScope&) { IO::Functions::Read(loaded, samplePath); }))
             return;
         image = loaded;
     } else {
@@ -213,28 +198,24 @@ void RunPipeline()
     }
 
     using Element = Ref<Geometry::IStructuringElement>;
-    if (!Transform<void(ImageRef, ImageRef, double)>(
-            "Gaussian", L"Quilon_::Images::Filtering::Functions::Gaussian", "sigma 2", image, 2.0))
+    if (!Transform("Gaussian", Filtering::Functions::Gaussian.Overload<0>(), "sigma 2", image, 2.0))
         return;
-    if (!Transform<void(ImageRef, ImageRef, System::Pointer<IImage, 0>)>(
-            "OtsuThreshold", L"Quilon_::Images::Segmentation::Functions::OtsuThreshold", "whole image", image,
-            System::Pointer<IImage, 0>()))
+    if (!Transform("OtsuThreshold", Segmentation::Functions::OtsuThreshold.Overload<0>(), "whole image",
+                   image, System::Pointer<IImage, 0>()))
         return;
     const std::int64_t thresholded = CountSet(image);
     const Element disk = Geometry::StructuringElement::New(Geometry::pseDisk, 2.0);
-    if (!Transform<void(ImageRef, ImageRef, Element)>(
-            "Open", L"Quilon_::Images::Morphology::OpeningClosing::Functions::Open", "disk of radius 2",
-            image, disk))
+    if (!Transform("Open", Morphology::OpeningClosing::Functions::Open.Overload<0>(), "disk of radius 2",
+                   image, disk))
         return;
-    if (!Transform<void(ImageRef, ImageRef)>(
-            "HoleFill", L"Quilon_::Images::Morphology::Geodesy::Functions::HoleFill", "", image))
+    if (!Transform("HoleFill", Morphology::Geodesy::Functions::HoleFill.Overload<0>(), "", image))
         return;
     const std::int64_t filled = CountSet(image);
     if (thresholded >= 0 && filled >= 0)
         std::printf("  foreground: %lld samples after the threshold, %lld after opening and filling\n",
                     static_cast<long long>(thresholded), static_cast<long long>(filled));
-    if (write)
-        RunStep("write", "result.png", [&](ProgressScope&) { (*write)(image, resultPath); });
+    if (files)
+        RunStep("write", "result.png", [&](ProgressScope&) { IO::Functions::Write(image, resultPath); });
 }
 
 } // namespace Quilon_::Tool
