@@ -45,7 +45,7 @@ STRESS_FILTER ?= *Concurrency*:ReferenceCountTest.CopiesOnTwoThreads*
 
 # Steps run in the order written; Ninja and ctest parallelise inside each step.
 .NOTPARALLEL:
-.PHONY: all deps build test asan tsan fuzz fuzz-build stress demo bench format clean
+.PHONY: all deps bench-deps build test asan tsan fuzz fuzz-build stress demo bench format clean
 
 all: build
 
@@ -76,14 +76,16 @@ tsan:
 	$(call compile,$(TSAN_DIR))
 	$(call run_tests,$(TSAN_DIR),$(TSAN_ENV))
 
-# The archive reader and the image file readers under libFuzzer,
+# The archive reader, the image file readers and the object-set readers under libFuzzer,
 # AddressSanitizer and UBSan, each from a seed corpus that the writers
-# produce and for half of FUZZ_TIME; new inputs are kept in $(FUZZ_DIR)/corpus
-# and $(FUZZ_DIR)/image-corpus. Only the fuzz targets and the libraries they
+# produce (the CSV reader from the test fixtures) and for half of FUZZ_TIME
+# (the CSV reader a quarter); new inputs are kept in $(FUZZ_DIR)/corpus,
+# $(FUZZ_DIR)/image-corpus and $(FUZZ_DIR)/csv-corpus. Only the fuzz targets and the libraries they
 # load are built there.
 fuzz-build:
 	CXX=$(CLANGXX) $(call configure,$(FUZZ_DIR),-DQUILON_FUZZ=ON -DQUILON_BUILD_TESTS=OFF -DQUILON_BUILD_BENCH=OFF)
-	$(call compile,$(FUZZ_DIR)) --target ArchiveReaderFuzzer ArchiveSeedCorpus ImageReaderFuzzer ImageSeedCorpus
+	$(call compile,$(FUZZ_DIR)) --target ArchiveReaderFuzzer ArchiveSeedCorpus ImageReaderFuzzer ImageSeedCorpus \
+	    ObjectSetCsvFuzzer
 
 fuzz: fuzz-build
 	$(FUZZ_DIR)/bin/ArchiveSeedCorpus $(FUZZ_DIR)/corpus
@@ -92,6 +94,9 @@ fuzz: fuzz-build
 	$(FUZZ_DIR)/bin/ImageSeedCorpus $(FUZZ_DIR)/image-corpus
 	$(ASAN_ENV) $(FUZZ_DIR)/bin/ImageReaderFuzzer -max_total_time=$$(( $(FUZZ_TIME) / 2 )) -max_len=16384 \
 	    -timeout=10 -rss_limit_mb=2048 -print_final_stats=1 $(FUZZ_DIR)/image-corpus
+	mkdir -p $(FUZZ_DIR)/csv-corpus
+	$(ASAN_ENV) $(FUZZ_DIR)/bin/ObjectSetCsvFuzzer -max_total_time=$$(( $(FUZZ_TIME) / 4 + 1 )) -max_len=4096 \
+	    -timeout=10 -rss_limit_mb=2048 -print_final_stats=1 $(FUZZ_DIR)/csv-corpus tests/fixtures/csv
 
 stress: build
 	$(call compile,$(STRESS_DIR))
@@ -101,7 +106,14 @@ stress: build
 demo: deps build
 	$(BUILD_DIR)/bin/quilon $(DEMO_ARGS)
 
-bench: deps build
+# The peer libraries that benchmarks compare against, installed for make bench
+# only: the library and its tests never need them.
+BENCH_PACKAGES := libopencv-dev
+
+bench-deps:
+	QUILON_EXTRA_PACKAGES="$(BENCH_PACKAGES)" scripts/install-deps.sh
+
+bench: deps bench-deps build
 	@set -e; found=0; \
 	for program in $(BUILD_DIR)/bin/bench_*; do \
 	    [ -x "$$program" ] || continue; \

@@ -97,7 +97,7 @@ endif()
 # one file leaves it off. Sources of such a target must not clash when put
 # together: no file-scope `using namespace` that makes another source's
 # names ambiguous, and distinct names in anonymous namespaces.
-option(QUILON_UNITY_BUILD "Compile the core, the tool and the tests in batches of sources (faster clean builds)" OFF)
+option(QUILON_UNITY_BUILD "Compile the core, the reference library, the tool and the tests in batches of sources (faster clean builds)" OFF)
 function(quilon_unity_build target)
     if(QUILON_UNITY_BUILD)
         set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 8)

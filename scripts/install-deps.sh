@@ -24,6 +24,10 @@ packages=(
     libjpeg62-turbo-dev
     libcli11-dev
 )
+# Packages that one make target adds (make bench: the peer libraries it
+# compares against).
+read -r -a extra_packages <<< "${QUILON_EXTRA_PACKAGES:-}"
+packages+=("${extra_packages[@]}")
 
 missing=()
 for package in "${packages[@]}"; do

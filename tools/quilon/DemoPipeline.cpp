@@ -1,7 +1,8 @@
 // The pipeline of `quilon demo`: a synthetic grey image of bright blobs,
 // some of them rings, on a noisy background, written as PNG and read back,
-// then smoothed, thresholded, opened and hole-filled, and written again.
-// Each step prints its time.
+// then smoothed, thresholded, opened and hole-filled, and written again;
+// the blobs are then labelled as objects and measured, and the largest
+// listed. Each step prints its time.
 //
 // The operators are called through their headers, as an application calls
 // them; a step whose operator no loaded library implements is skipped, and
@@ -19,6 +20,13 @@
 #include "Quilon_/Images/Morphology/OpeningClosing/Functions.h"
 #include "Quilon_/Images/Segmentation/Functions.h"
 #include "Quilon_/Images/StorageOrder.h"
+#include "Quilon_/ObjectSets/AttributeDictionary.h"
+#include "Quilon_/ObjectSets/Bitmaps/Generation/Functions.h"
+#include "Quilon_/ObjectSets/Globals.h"
+#include "Quilon_/ObjectSets/Measurements/Functions.h"
+#include "Quilon_/ObjectSets/ObjectDictionary.h"
+#include "Quilon_/ObjectSets/ObjectSet.h"
+#include "Quilon_/ObjectSets/ScalarAttribute.h"
 #include "Quilon_/System/ProgressContext.h"
 
 #include <algorithm>
@@ -30,6 +38,7 @@
 #include <functional>
 #include <string>
 #include <system_error>
+#include <vector>
 
 namespace Quilon_::Tool {
 
@@ -170,6 +179,70 @@ bool Transform(const char* title, const Operator& step, const std::string& detai
     return true;
 }
 
+// The cells of one measurement of every object, in the set's order.
+std::vector<double> MeasurementColumn(const Ref<ObjectSets::IObjectSet>& set, const wchar_t* measurement)
+{
+    std::wstring name = measurement;
+    if (ObjectSets::Globals::PrefixMeasurementAttributes())
+        name = L"StandardShapeMeasurements." + name;
+    System::Pointer<ObjectSets::IScalarAttribute, 1> cells = set->Attributes()->Find(name);
+    Ref<ObjectSets::IObjectDictionary> objects = set->Objects();
+    std::vector<double> values;
+    for (std::int64_t index = 0; index < objects->Count(); ++index)
+        values.push_back(cells->ScalarValue(objects->KeyAt(index)));
+    return values;
+}
+
+// Labels the foreground of a binary image as objects, measures their shapes
+// and lists the ten largest.
+void MeasureObjects(const ImageRef& binary)
+{
+    namespace Generation = ObjectSets::Bitmaps::Generation::Functions;
+    namespace Measure = ObjectSets::Measurements;
+    if (!Generation::Clusters.Overload<3>().CheckImplemented(false) ||
+        !Measure::Functions::StandardShapeMeasurements.Overload<1>().CheckImplemented(false)) {
+        Skip("Clusters", "no implementation");
+        return;
+    }
+    Ref<ObjectSets::IObjectSet> set;
+    if (!RunStep("Clusters", "8-connected objects", [&](ProgressScope&) {
+            set = ObjectSets::ObjectSet::New();
+            Generation::Clusters(binary, set, Geometry::pngSquare8);
+        }))
+        return;
+    if (!RunStep("Measure", "standard shape measurements", [&](ProgressScope&) {
+            Measure::Functions::StandardShapeMeasurements(
+                set, std::vector<Measure::StandardShapeMeasurementEnum>{});
+        }))
+        return;
+    const std::vector<double> area = MeasurementColumn(set, L"Area");
+    const std::vector<double> x = MeasurementColumn(set, L"CentroidX"),
+                              y = MeasurementColumn(set, L"CentroidY");
+    const std::vector<double> left = MeasurementColumn(set, L"BoundingBoxLeft");
+    const std::vector<double> top = MeasurementColumn(set, L"BoundingBoxTop");
+    const std::vector<double> width = MeasurementColumn(set, L"BoundingBoxWidth");
+    const std::vector<double> height = MeasurementColumn(set, L"BoundingBoxHeight");
+    const std::vector<double> diameter = MeasurementColumn(set, L"EquivalentDiameter");
+    std::vector<std::size_t> order(area.size());
+    for (std::size_t i = 0; i < order.size(); ++i)
+        order[i] = i;
+    // Largest first; equal areas by key.
+    std::stable_sort(order.begin(), order.end(),
+                     [&](std::size_t a, std::size_t b) { return area[a] > area[b]; });
+    order.resize(std::min<std::size_t>(order.size(), 10));
+    std::printf("  objects: %lld; the largest:\n", static_cast<long long>(set->Count()));
+    std::printf("  %6s %7s %16s %22s %9s\n", "key", "area", "centroid", "box (x, y, w, h)", "diameter");
+    Ref<ObjectSets::IObjectDictionary> objects = set->Objects();
+    for (std::size_t i : order) {
+        char centroid[40], box[48];
+        std::snprintf(centroid, sizeof centroid, "(%.1f, %.1f)", x[i], y[i]);
+        std::snprintf(box, sizeof box, "(%.0f, %.0f, %.0f, %.0f)", left[i], top[i], width[i], height[i]);
+        std::printf("  %6lld %7.0f %16s %22s %9.2f\n",
+                    static_cast<long long>(objects->KeyAt(std::int64_t(i)).Value()), area[i], centroid, box,
+                    diameter[i]);
+    }
+}
+
 } // namespace
 
 void RunPipeline()
@@ -214,8 +287,10 @@ void RunPipeline()
     if (thresholded >= 0 && filled >= 0)
         std::printf("  foreground: %lld samples after the threshold, %lld after opening and filling\n",
                     static_cast<long long>(thresholded), static_cast<long long>(filled));
-    if (files)
-        RunStep("write", "result.png", [&](ProgressScope&) { IO::Functions::Write(image, resultPath); });
+    if (files &&
+        !RunStep("write", "result.png", [&](ProgressScope&) { IO::Functions::Write(image, resultPath); }))
+        return;
+    MeasureObjects(image);
 }
 
 } // namespace Quilon_::Tool

@@ -70,22 +70,24 @@ Ref<IGraphicContext> NewContext(const std::wstring& name, Ref<IGraphicProperties
     return Ref<IGraphicContext>(new CGraphicContext(name, std::move(properties)));
 }
 
-using Store = System::Collections::Template::Detail::ICollectionImplBase<IGraphicContext>;
+using GraphicContextStore = System::Collections::Template::Detail::ICollectionImplBase<IGraphicContext>;
 using Events = System::Collections::Template::ICollectionEventsImpl<System::Collections::ICollectionEvents>;
-using TypedView = System::Collections::Template::Detail::ICollectionImpl<IGraphicContextCollection,
-                                                                         IGraphicContext, Events, Store>;
+using GraphicContextView =
+    System::Collections::Template::Detail::ICollectionImpl<IGraphicContextCollection, IGraphicContext, Events,
+                                                           GraphicContextStore>;
 
 class CGraphicContextCollection
     : public System::Template::ObjectImpl<
-          CGraphicContextCollection, TypedView,
-          System::Collections::Template::Detail::ICollectionImpl<System::Collections::ICollection,
-                                                                 System::Interface, Events, Store>,
+          CGraphicContextCollection, GraphicContextView,
+          System::Collections::Template::Detail::ICollectionImpl<
+              System::Collections::ICollection, System::Interface, Events, GraphicContextStore>,
           System::Collections::ICloneable> {
 public:
     CGraphicContextCollection() = default;
-    CGraphicContextCollection(const CGraphicContextCollection& other) : Events(), Store(), ObjectImpl()
+    CGraphicContextCollection(const CGraphicContextCollection& other)
+        : Events(), GraphicContextStore(), ObjectImpl()
     {
-        TypedView::CopyFrom(other, true);
+        GraphicContextView::CopyFrom(other, true);
         // The copy's active context is the copy of the active one.
         const std::int64_t active = const_cast<CGraphicContextCollection&>(other).ActiveIndex();
         if (active >= 0)
@@ -110,20 +112,20 @@ public:
     bool RemoveByName(const std::wstring& name) override
     {
         const std::int64_t index = IndexOfName(name);
-        return index >= 0 && TypedView::RemoveAt(index);
+        return index >= 0 && GraphicContextView::RemoveAt(index);
     }
     std::int64_t AddOrReplace(const Ref<IGraphicContext>& context) override
     {
         const std::int64_t index = IndexOfName(context->Name());
         if (index < 0)
-            return TypedView::Add(context);
-        TypedView::SetItem(index, context);
+            return GraphicContextView::Add(context);
+        GraphicContextView::SetItem(index, context);
         return index;
     }
     void AddRange(const std::vector<Ref<IGraphicContext>>& contexts) override
     {
         for (const auto& context : contexts)
-            TypedView::Add(context);
+            GraphicContextView::Add(context);
     }
     std::vector<std::wstring> Names() override
     {
@@ -138,24 +140,24 @@ public:
     // wherever insertions and removals move it.
     Pointer<IGraphicContext, 0> Active() override
     {
-        return m_activeContext && TypedView::IndexOf(Ref<IGraphicContext>(m_activeContext)) >= 0
+        return m_activeContext && GraphicContextView::IndexOf(Ref<IGraphicContext>(m_activeContext)) >= 0
                    ? m_activeContext
                    : Pointer<IGraphicContext, 0>();
     }
     void SetActive(const Pointer<IGraphicContext, 0>& context) override
     {
-        if (context && TypedView::IndexOf(Ref<IGraphicContext>(context)) < 0)
+        if (context && GraphicContextView::IndexOf(Ref<IGraphicContext>(context)) < 0)
             QUILON_RAISE(L"The graphic context is not in the collection");
         m_activeContext = context;
     }
     std::int64_t ActiveIndex() override
     {
-        return m_activeContext ? TypedView::IndexOf(Ref<IGraphicContext>(m_activeContext)) : -1;
+        return m_activeContext ? GraphicContextView::IndexOf(Ref<IGraphicContext>(m_activeContext)) : -1;
     }
     void SetActiveIndex(std::int64_t index) override
     {
         SetActive(index < 0 ? Pointer<IGraphicContext, 0>()
-                            : Pointer<IGraphicContext, 0>(TypedView::Item(index)));
+                            : Pointer<IGraphicContext, 0>(GraphicContextView::Item(index)));
     }
 
     Pointer<System::Collections::ICloneable, 1> Clone() override
@@ -165,7 +167,7 @@ public:
 
     void OnItemRemoved(Ref<IGraphicContext> item) override
     {
-        if (m_activeContext == item && TypedView::IndexOf(item) < 0)
+        if (m_activeContext == item && GraphicContextView::IndexOf(item) < 0)
             m_activeContext = nullptr;
     }
 
@@ -173,7 +175,7 @@ private:
     Pointer<IGraphicContext, 0> m_activeContext;
 };
 
-Ref<IGraphicContextCollection> NewCollection()
+Ref<IGraphicContextCollection> NewGraphicContextCollection()
 {
     return Ref<IGraphicContextCollection>(new CGraphicContextCollection());
 }
@@ -182,7 +184,7 @@ void RegisterContexts()
 {
     GraphicContext::New.Register(L"Graphic context", &NewNamedContext);
     GraphicContext::New.Register(L"Graphic context", &NewContext);
-    GraphicContextCollection::New.Register(L"Graphic context collection", &NewCollection);
+    GraphicContextCollection::New.Register(L"Graphic context collection", &NewGraphicContextCollection);
 }
 
 const System::Template::Initializer<::Library> contexts(&RegisterContexts, nullptr, 0.2f);

@@ -25,10 +25,12 @@ using System::Ref;
 
 namespace {
 
-using Store = System::Collections::Template::Detail::ICollectionImplBase<IGraphicProperties>;
+using GraphicPropertiesCollectionStore =
+    System::Collections::Template::Detail::ICollectionImplBase<IGraphicProperties>;
 using Events = System::Collections::Template::ICollectionEventsImpl<System::Collections::ICollectionEvents>;
-using TypedView = System::Collections::Template::Detail::ICollectionImpl<IGraphicPropertiesCollection,
-                                                                         IGraphicProperties, Events, Store>;
+using GraphicPropertiesCollectionView =
+    System::Collections::Template::Detail::ICollectionImpl<IGraphicPropertiesCollection, IGraphicProperties,
+                                                           Events, GraphicPropertiesCollectionStore>;
 
 // The kinds of properties that a collection holds one of.
 const System::Type& KindOf(IGraphicProperties& properties)
@@ -48,16 +50,17 @@ const System::Type& KindOf(IGraphicProperties& properties)
 
 class CGraphicPropertiesCollection
     : public System::Template::ObjectImpl<
-          CGraphicPropertiesCollection, TypedView,
-          System::Collections::Template::Detail::ICollectionImpl<System::Collections::ICollection,
-                                                                 System::Interface, Events, Store>,
+          CGraphicPropertiesCollection, GraphicPropertiesCollectionView,
+          System::Collections::Template::Detail::ICollectionImpl<
+              System::Collections::ICollection, System::Interface, Events, GraphicPropertiesCollectionStore>,
           System::Collections::ICloneable> {
 public:
     CGraphicPropertiesCollection() = default;
     // A deep copy: each thread and each context changes its own values.
-    CGraphicPropertiesCollection(const CGraphicPropertiesCollection& other) : Events(), Store(), ObjectImpl()
+    CGraphicPropertiesCollection(const CGraphicPropertiesCollection& other)
+        : Events(), GraphicPropertiesCollectionStore(), ObjectImpl()
     {
-        TypedView::CopyFrom(other, true);
+        GraphicPropertiesCollectionView::CopyFrom(other, true);
     }
 
     Pointer<IGraphicProperties, 0> Find(const System::Type& type) override
@@ -71,23 +74,24 @@ public:
     {
         bool removed = false;
         for (std::int64_t index = IndexOfType(type); index >= 0; index = IndexOfType(type))
-            removed = TypedView::RemoveAt(index) || removed;
+            removed = GraphicPropertiesCollectionView::RemoveAt(index) || removed;
         return removed;
     }
     std::int64_t SetProperties(const Ref<IGraphicProperties>& properties) override
     {
         const System::Type& kind = KindOf(*properties);
-        const std::int64_t index =
-            kind == IGraphicProperties::GetType() ? TypedView::IndexOf(properties) : IndexOfType(kind);
+        const std::int64_t index = kind == IGraphicProperties::GetType()
+                                       ? GraphicPropertiesCollectionView::IndexOf(properties)
+                                       : IndexOfType(kind);
         if (index < 0)
-            return TypedView::Add(properties);
-        TypedView::SetItem(index, properties);
+            return GraphicPropertiesCollectionView::Add(properties);
+        GraphicPropertiesCollectionView::SetItem(index, properties);
         return index;
     }
     void AddRange(const std::vector<Ref<IGraphicProperties>>& properties) override
     {
         for (const auto& item : properties)
-            TypedView::Add(item);
+            GraphicPropertiesCollectionView::Add(item);
     }
     std::vector<Ref<IGraphicProperties>> ToVector() override { return m_items; }
     void CopyValuesFrom(const Ref<IGraphicPropertiesCollection>& source) override
@@ -129,15 +133,16 @@ private:
     }
 };
 
-Ref<IGraphicPropertiesCollection> NewCollection()
+Ref<IGraphicPropertiesCollection> NewGraphicPropertiesCollection()
 {
     return Ref<IGraphicPropertiesCollection>(new CGraphicPropertiesCollection());
 }
 
 void StartCollection()
 {
-    GraphicPropertiesCollection::New.Register(L"Graphic properties collection", &NewCollection);
-    Ref<IGraphicPropertiesCollection> defaults = NewCollection();
+    GraphicPropertiesCollection::New.Register(L"Graphic properties collection",
+                                              &NewGraphicPropertiesCollection);
+    Ref<IGraphicPropertiesCollection> defaults = NewGraphicPropertiesCollection();
     defaults->Add(StandardProperties::New());
     defaults->Add(TextProperties::New());
     defaults->Add(ArrowProperties::New());

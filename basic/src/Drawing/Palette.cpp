@@ -200,23 +200,23 @@ private:
     std::vector<Color> m_table;
 };
 
-using Store = System::Collections::Template::Detail::ICollectionImplBase<IPalette>;
+using PaletteStore = System::Collections::Template::Detail::ICollectionImplBase<IPalette>;
 using Events = System::Collections::Template::ICollectionEventsImpl<System::Collections::ICollectionEvents>;
-using TypedView =
-    System::Collections::Template::Detail::ICollectionImpl<IPaletteCollection, IPalette, Events, Store>;
+using PaletteView = System::Collections::Template::Detail::ICollectionImpl<IPaletteCollection, IPalette,
+                                                                           Events, PaletteStore>;
 
 class CPaletteCollection
     : public System::Template::ObjectImpl<
-          CPaletteCollection, TypedView,
+          CPaletteCollection, PaletteView,
           System::Collections::Template::Detail::ICollectionImpl<System::Collections::ICollection,
-                                                                 System::Interface, Events, Store>,
+                                                                 System::Interface, Events, PaletteStore>,
           System::Collections::ICloneable> {
 public:
     CPaletteCollection() = default;
     // A deep copy, so that a thread's or a caller's copy changes alone.
-    CPaletteCollection(const CPaletteCollection& other) : Events(), Store(), ObjectImpl()
+    CPaletteCollection(const CPaletteCollection& other) : Events(), PaletteStore(), ObjectImpl()
     {
-        TypedView::CopyFrom(other, true);
+        PaletteView::CopyFrom(other, true);
         if (other.m_default) {
             const std::int64_t index = IndexOfStored(other, other.m_default);
             m_default = index >= 0 ? Pointer<IPalette, 0>(m_items[std::size_t(index)]) : other.m_default;
@@ -240,20 +240,20 @@ public:
     bool RemoveByName(const LIString& name) override
     {
         const std::int64_t index = IndexOfName(name);
-        return index >= 0 && TypedView::RemoveAt(index);
+        return index >= 0 && PaletteView::RemoveAt(index);
     }
     std::int64_t AddOrReplace(const Ref<IPalette>& palette) override
     {
         const std::int64_t index = IndexOfName(palette->Name());
         if (index < 0)
-            return TypedView::Add(palette);
-        TypedView::SetItem(index, palette);
+            return PaletteView::Add(palette);
+        PaletteView::SetItem(index, palette);
         return index;
     }
     void AddRange(const std::vector<Ref<IPalette>>& palettes) override
     {
         for (const auto& palette : palettes)
-            TypedView::Add(palette);
+            PaletteView::Add(palette);
     }
     void Merge(const Ref<IPaletteCollection>& other, bool replace) override
     {

@@ -118,20 +118,20 @@ private:
     std::vector<SizeI> m_sizes;
 };
 
-Ref<ISizeCollection> NewEmpty()
+Ref<ISizeCollection> NewEmptySizes()
 {
     return Ref<ISizeCollection>(new CSizeCollection());
 }
 
-Ref<ISizeCollection> NewOf(const std::vector<SizeI>& sizes)
+Ref<ISizeCollection> NewSizesOf(const std::vector<SizeI>& sizes)
 {
     return Ref<ISizeCollection>(new CSizeCollection(sizes));
 }
 
 void RegisterSizeCollection()
 {
-    SizeCollection::New.Register(L"Size collection", &NewEmpty);
-    SizeCollection::New.Register(L"Size collection", &NewOf);
+    SizeCollection::New.Register(L"Size collection", &NewEmptySizes);
+    SizeCollection::New.Register(L"Size collection", &NewSizesOf);
 }
 
 const System::Template::Initializer<::Library> sizes(&RegisterSizeCollection, nullptr, 0.2f);

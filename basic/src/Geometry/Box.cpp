@@ -96,7 +96,7 @@ template <class IB>
 using V = typename IB::CoordinatesType::ValueType;
 
 template <class IB>
-Made<IB> NewEmpty(QG::Axes axes)
+Made<IB> NewEmptyBox(QG::Axes axes)
 {
     return Made<IB>(new CBox<IB>(axes));
 }
@@ -118,9 +118,9 @@ Made<IB> NewOfCorners(System::Ref<typename IB::CoordinatesType> lower,
 }
 
 template <class IB, class Factory>
-void RegisterFactory(Factory& factory)
+void RegisterBoxFactory(Factory& factory)
 {
-    factory.Register(L"Box", &NewEmpty<IB>);
+    factory.Register(L"Box", &NewEmptyBox<IB>);
     factory.Register(L"Box", &NewPlanar<IB>);
     factory.Register(L"Box", &NewSpatial<IB>);
     factory.Register(L"Box", &NewOfCorners<IB>);
@@ -128,9 +128,9 @@ void RegisterFactory(Factory& factory)
 
 void RegisterBoxes()
 {
-    RegisterFactory<QG::IBox>(QG::Box::New);
-    RegisterFactory<QG::IBoxF>(QG::BoxF::New);
-    RegisterFactory<QG::IBoxD>(QG::BoxD::New);
+    RegisterBoxFactory<QG::IBox>(QG::Box::New);
+    RegisterBoxFactory<QG::IBoxF>(QG::BoxF::New);
+    RegisterBoxFactory<QG::IBoxD>(QG::BoxD::New);
 }
 
 const System::Template::Initializer<::Library> boxes(&RegisterBoxes, nullptr, 0.2f);

@@ -300,14 +300,15 @@ void RegisterIntegerFunctions()
         QG::Family::SetToCoordinatesFunction1(&F::ToCoordinates);                                            \
     }
 
-void RegisterFunctions()
+void RegisterCoordinateFunctionsFunctions()
 {
     RegisterIntegerFunctions();
     QUILON_BASIC_REGISTER_REAL_FUNCTIONS(CoordinatesF, ICoordinatesF)
     QUILON_BASIC_REGISTER_REAL_FUNCTIONS(CoordinatesD, ICoordinatesD)
 }
 
-const System::Template::Initializer<::Library> functions(&RegisterFunctions, nullptr, 0.2f);
+const System::Template::Initializer<::Library>
+    coordinateFunctionsInitializer(&RegisterCoordinateFunctionsFunctions, nullptr, 0.2f);
 
 } // namespace
 

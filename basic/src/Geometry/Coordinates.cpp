@@ -35,7 +35,7 @@ namespace {
 template <class I>
 using Made = System::Ref<I>;
 template <class I>
-using V = typename I::ValueType;
+using CoordinateValue = typename I::ValueType;
 
 template <class I>
 Made<I> NewOfAxes(Quilon_::Geometry::Axes axes)
@@ -43,33 +43,35 @@ Made<I> NewOfAxes(Quilon_::Geometry::Axes axes)
     return Made<I>(new CCoordinates<I>(axes));
 }
 template <class I>
-Made<I> NewOf1(V<I> a, Quilon_::Geometry::Axes axes)
+Made<I> NewOf1(CoordinateValue<I> a, Quilon_::Geometry::Axes axes)
 {
     return Made<I>(new CCoordinates<I>(axes, {a}));
 }
 template <class I>
-Made<I> NewOf2(V<I> a, V<I> b, Quilon_::Geometry::Axes axes)
+Made<I> NewOf2(CoordinateValue<I> a, CoordinateValue<I> b, Quilon_::Geometry::Axes axes)
 {
     return Made<I>(new CCoordinates<I>(axes, {a, b}));
 }
 template <class I>
-Made<I> NewOf3(V<I> a, V<I> b, V<I> c, Quilon_::Geometry::Axes axes)
+Made<I> NewOf3(CoordinateValue<I> a, CoordinateValue<I> b, CoordinateValue<I> c, Quilon_::Geometry::Axes axes)
 {
     return Made<I>(new CCoordinates<I>(axes, {a, b, c}));
 }
 template <class I>
-Made<I> NewOf4(V<I> a, V<I> b, V<I> c, V<I> d, Quilon_::Geometry::Axes axes)
+Made<I> NewOf4(CoordinateValue<I> a, CoordinateValue<I> b, CoordinateValue<I> c, CoordinateValue<I> d,
+               Quilon_::Geometry::Axes axes)
 {
     return Made<I>(new CCoordinates<I>(axes, {a, b, c, d}));
 }
 template <class I>
-Made<I> NewOfAll(V<I> x, V<I> y, V<I> z, V<I> t, V<I> b)
+Made<I> NewOfAll(CoordinateValue<I> x, CoordinateValue<I> y, CoordinateValue<I> z, CoordinateValue<I> t,
+                 CoordinateValue<I> b)
 {
     return Made<I>(new CCoordinates<I>(Quilon_::Geometry::Axes::aXYZTB, {x, y, z, t, b}));
 }
 
 template <class I, class Factory>
-void RegisterFactory(Factory& factory)
+void RegisterCoordinatesFactory(Factory& factory)
 {
     const wchar_t* name = L"Coordinates";
     factory.Register(name, &NewOfAxes<I>);
@@ -81,7 +83,7 @@ void RegisterFactory(Factory& factory)
 }
 
 template <class Item>
-using Store = System::Collections::Template::Detail::ICollectionImplBase<Item>;
+using CoordinatesStore = System::Collections::Template::Detail::ICollectionImplBase<Item>;
 using Events = System::Collections::Template::ICollectionEventsImpl<System::Collections::ICollectionEvents>;
 
 // A list of coordinates of one kind, typed and untyped over one store.
@@ -89,20 +91,21 @@ template <class I, class Item>
 class CCoordinatesCollection
     : public System::Template::ObjectImpl<
           CCoordinatesCollection<I, Item>,
-          System::Collections::Template::Detail::ICollectionImpl<I, Item, Events, Store<Item>>,
-          System::Collections::Template::Detail::ICollectionImpl<System::Collections::ICollection,
-                                                                 System::Interface, Events, Store<Item>>,
+          System::Collections::Template::Detail::ICollectionImpl<I, Item, Events, CoordinatesStore<Item>>,
+          System::Collections::Template::Detail::ICollectionImpl<
+              System::Collections::ICollection, System::Interface, Events, CoordinatesStore<Item>>,
           System::Collections::ICloneable> {
-    using TypedView = System::Collections::Template::Detail::ICollectionImpl<I, Item, Events, Store<Item>>;
+    using CoordinatesView =
+        System::Collections::Template::Detail::ICollectionImpl<I, Item, Events, CoordinatesStore<Item>>;
 
 public:
     CCoordinatesCollection() = default;
     explicit CCoordinatesCollection(const std::vector<System::Ref<Item>>& items) { this->m_items = items; }
     // A deep copy: coordinates are values.
     CCoordinatesCollection(const CCoordinatesCollection& other)
-        : Events(), Store<Item>(), CCoordinatesCollection::ObjectImpl()
+        : Events(), CoordinatesStore<Item>(), CCoordinatesCollection::ObjectImpl()
     {
-        TypedView::CopyFrom(other, true);
+        CoordinatesView::CopyFrom(other, true);
     }
 
     std::vector<System::Ref<Item>> ToVector() override { return this->m_items; }
@@ -114,7 +117,7 @@ public:
 };
 
 template <class I, class Item>
-System::Ref<I> NewCollection()
+System::Ref<I> NewCoordinatesCollection()
 {
     return System::Ref<I>(new CCoordinatesCollection<I, Item>());
 }
@@ -127,7 +130,7 @@ System::Ref<I> NewCollectionOf(const std::vector<System::Ref<Item>>& items)
 template <class I, class Item, class Factory>
 void RegisterCollectionFactory(Factory& factory)
 {
-    factory.Register(L"Coordinates collection", &NewCollection<I, Item>);
+    factory.Register(L"Coordinates collection", &NewCoordinatesCollection<I, Item>);
     factory.Register(L"Coordinates collection", &NewCollectionOf<I, Item>);
 }
 
@@ -138,9 +141,9 @@ std::wstring AxesText(unsigned char axes)
 
 void RegisterCoordinates()
 {
-    RegisterFactory<ICoordinates>(Coordinates::New);
-    RegisterFactory<ICoordinatesF>(CoordinatesF::New);
-    RegisterFactory<ICoordinatesD>(CoordinatesD::New);
+    RegisterCoordinatesFactory<ICoordinates>(Coordinates::New);
+    RegisterCoordinatesFactory<ICoordinatesF>(CoordinatesF::New);
+    RegisterCoordinatesFactory<ICoordinatesD>(CoordinatesD::New);
     RegisterCollectionFactory<ICoordinatesCollection, ICoordinates>(CoordinatesCollection::New);
     RegisterCollectionFactory<ICoordinatesFCollection, ICoordinatesF>(CoordinatesFCollection::New);
     RegisterCollectionFactory<ICoordinatesDCollection, ICoordinatesD>(CoordinatesDCollection::New);

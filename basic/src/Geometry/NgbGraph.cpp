@@ -14,15 +14,16 @@ using System::Ref;
 
 namespace {
 
-using Store = System::Collections::Template::Detail::ICollectionImplBase<ICoordinates>;
+using NgbGraphStore = System::Collections::Template::Detail::ICollectionImplBase<ICoordinates>;
 using Events = System::Collections::Template::ICollectionEventsImpl<System::Collections::ICollectionEvents>;
 
 class CNgbGraph
     : public System::Template::ObjectImpl<
           CNgbGraph,
-          System::Collections::Template::Detail::ICollectionImpl<INgbGraph, ICoordinates, Events, Store>,
+          System::Collections::Template::Detail::ICollectionImpl<INgbGraph, ICoordinates, Events,
+                                                                 NgbGraphStore>,
           System::Collections::Template::Detail::ICollectionImpl<System::Collections::ICollection,
-                                                                 System::Interface, Events, Store>> {
+                                                                 System::Interface, Events, NgbGraphStore>> {
 public:
     explicit CNgbGraph(std::vector<Ref<ICoordinates>> offsets)
     {
@@ -69,14 +70,14 @@ Ref<INgbGraph> MakeGraph(std::span<const Offset> offsets, QG::Axes axes)
 
 namespace {
 
-Ref<INgbGraph> NewPredefined(PredefinedNgbGraphEnum value, QG::Axes axes)
+Ref<INgbGraph> NewPredefinedGraph(PredefinedNgbGraphEnum value, QG::Axes axes)
 {
     std::vector<Offset> offsets = PredefinedGraphOffsets(value);
     CheckSpatialAxes(axes, PredefinedDimension(value));
     return MakeGraph(offsets, axes);
 }
 
-Ref<INgbGraph> NewFromPoints(Ref<ICoordinatesCollection> points)
+Ref<INgbGraph> NewGraphFromPoints(Ref<ICoordinatesCollection> points)
 {
     if (points->Count() == 0)
         QUILON_RAISE(L"A neighbourhood graph needs at least one neighbour");
@@ -90,8 +91,8 @@ Ref<INgbGraph> NewFromPoints(Ref<ICoordinatesCollection> points)
 
 void RegisterGraphs()
 {
-    NgbGraph::New.Register(L"Neighbourhood graph", &NewPredefined);
-    NgbGraph::New.Register(L"Neighbourhood graph", &NewFromPoints);
+    NgbGraph::New.Register(L"Neighbourhood graph", &NewPredefinedGraph);
+    NgbGraph::New.Register(L"Neighbourhood graph", &NewGraphFromPoints);
 }
 
 const System::Template::Initializer<::Library> graphs(&RegisterGraphs, nullptr, 0.2f);

@@ -132,7 +132,7 @@ void CheckRotation(const std::vector<double>& r, std::int64_t n)
         QUILON_RAISE(L"The matrix is not a rotation");
 }
 
-Ref<IRotation> NewPlanar(double angle, Ref<ICoordinatesD> center)
+Ref<IRotation> NewPlanarRotation(double angle, Ref<ICoordinatesD> center)
 {
     CheckCenter(center, 2);
     const double c = std::cos(angle), s = std::sin(angle);
@@ -140,7 +140,7 @@ Ref<IRotation> NewPlanar(double angle, Ref<ICoordinatesD> center)
 }
 
 // Rz(c) Ry(b) Rx(a): about X first, then Y, then Z, the axes staying fixed.
-Ref<IRotation> NewSolid(double a, double b, double c, Ref<ICoordinatesD> center)
+Ref<IRotation> NewSolidRotation(double a, double b, double c, Ref<ICoordinatesD> center)
 {
     CheckCenter(center, 3);
     const double ca = std::cos(a), sa = std::sin(a), cb = std::cos(b), sb = std::sin(b), cc = std::cos(c),
@@ -151,7 +151,7 @@ Ref<IRotation> NewSolid(double a, double b, double c, Ref<ICoordinatesD> center)
                                         center));
 }
 
-Ref<IRotation> NewFromMatrix(Ref<Math::IMatrixD> matrix, Ref<ICoordinatesD> center)
+Ref<IRotation> NewRotationFromMatrix(Ref<Math::IMatrixD> matrix, Ref<ICoordinatesD> center)
 {
     const std::int64_t n = matrix->Rows();
     if (n != matrix->Columns() || (n != 2 && n != 3))
@@ -165,15 +165,15 @@ Ref<IRotation> NewFromMatrix(Ref<Math::IMatrixD> matrix, Ref<ICoordinatesD> cent
 Ref<IRotation> NewFromMatrixAtOrigin(Ref<Math::IMatrixD> matrix)
 {
     const std::int64_t n = matrix->Rows();
-    return NewFromMatrix(matrix, CoordinatesD::New(n == 3 ? QG::Axes::aXYZ : QG::Axes::aXY));
+    return NewRotationFromMatrix(matrix, CoordinatesD::New(n == 3 ? QG::Axes::aXYZ : QG::Axes::aXY));
 }
 
 void RegisterRotations()
 {
     const wchar_t* name = L"Rotation";
-    Rotation::New.Register(name, &NewPlanar);
-    Rotation::New.Register(name, &NewSolid);
-    Rotation::New.Register(name, &NewFromMatrix);
+    Rotation::New.Register(name, &NewPlanarRotation);
+    Rotation::New.Register(name, &NewSolidRotation);
+    Rotation::New.Register(name, &NewRotationFromMatrix);
     Rotation::New.Register(name, &NewFromMatrixAtOrigin);
 }
 

@@ -18,25 +18,25 @@ namespace {
 namespace QG = ::Quilon_::Geometry;
 namespace Collections = System::Collections::Template;
 template <class Item>
-using Store = Collections::Detail::ICollectionImplBase<Item>;
+using ShapeSetStore = Collections::Detail::ICollectionImplBase<Item>;
 using Events = Collections::ICollectionEventsImpl<System::Collections::ICollectionEvents>;
 
 // A list of `Item`s under the typed interface I and the untyped one, with
 // the cloning interface `Cloneable`.
 template <class Derived, class I, class Item, class Cloneable, class... More>
 class CList : public System::Template::ObjectImpl<
-                  Derived, Collections::Detail::ICollectionImpl<I, Item, Events, Store<Item>>,
+                  Derived, Collections::Detail::ICollectionImpl<I, Item, Events, ShapeSetStore<Item>>,
                   Collections::Detail::ICollectionImpl<System::Collections::ICollection, System::Interface,
-                                                       Events, Store<Item>>,
+                                                       Events, ShapeSetStore<Item>>,
                   Cloneable, More...> {
 protected:
-    using TypedView = Collections::Detail::ICollectionImpl<I, Item, Events, Store<Item>>;
+    using ShapeSetView = Collections::Detail::ICollectionImpl<I, Item, Events, ShapeSetStore<Item>>;
 
     CList() = default;
     // A deep copy: the items are cloned.
-    CList(const CList& other) : Events(), Store<Item>(), CList::ObjectImpl()
+    CList(const CList& other) : Events(), ShapeSetStore<Item>(), CList::ObjectImpl()
     {
-        TypedView::CopyFrom(other, true);
+        ShapeSetView::CopyFrom(other, true);
     }
 
 public:
@@ -50,14 +50,17 @@ class CShapeCollection
     : public CList<CShapeCollection, QG::IShapeCollection, QG::IShapeND, System::Collections::ICloneable> {
 public:
     CShapeCollection() = default;
-    CShapeCollection(const CShapeCollection& other) : Events(), Store<QG::IShapeND>(), CList(other) {}
+    CShapeCollection(const CShapeCollection& other) : Events(), ShapeSetStore<QG::IShapeND>(), CList(other) {}
 };
 
 class CShapeSetCollection : public CList<CShapeSetCollection, QG::IShapeSetCollection, QG::IShapeSet,
                                          System::Collections::ICloneable> {
 public:
     CShapeSetCollection() = default;
-    CShapeSetCollection(const CShapeSetCollection& other) : Events(), Store<QG::IShapeSet>(), CList(other) {}
+    CShapeSetCollection(const CShapeSetCollection& other)
+        : Events(), ShapeSetStore<QG::IShapeSet>(), CList(other)
+    {
+    }
 };
 
 // A set is a value (Pointer<IShapeSet, 2> copies it), so it clones through
@@ -68,7 +71,7 @@ public:
     CShapeSet() = default;
     // The shapes only: the owner stays with the original, and Clone gives
     // the copy the name once a reference holds it.
-    CShapeSet(const CShapeSet& other) : Events(), Store<QG::IShapeND>(), CList(other) {}
+    CShapeSet(const CShapeSet& other) : Events(), ShapeSetStore<QG::IShapeND>(), CList(other) {}
 
     System::Pointer<System::ICloneable, 1> Clone() override
     {

@@ -12,16 +12,17 @@ namespace QG = ::Quilon_::Geometry;
 
 namespace {
 
-using Store = System::Collections::Template::Detail::ICollectionImplBase<IWeightedCoordinates>;
+using WeightedCoordinatesStore =
+    System::Collections::Template::Detail::ICollectionImplBase<IWeightedCoordinates>;
 using Events = System::Collections::Template::ICollectionEventsImpl<System::Collections::ICollectionEvents>;
 
 class CWeightedCoordinatesCollection
     : public System::Template::ObjectImpl<
           CWeightedCoordinatesCollection,
-          System::Collections::Template::Detail::ICollectionImpl<IWeightedCoordinatesCollection,
-                                                                 IWeightedCoordinates, Events, Store>,
-          System::Collections::Template::Detail::ICollectionImpl<System::Collections::ICollection,
-                                                                 System::Interface, Events, Store>> {
+          System::Collections::Template::Detail::ICollectionImpl<
+              IWeightedCoordinatesCollection, IWeightedCoordinates, Events, WeightedCoordinatesStore>,
+          System::Collections::Template::Detail::ICollectionImpl<
+              System::Collections::ICollection, System::Interface, Events, WeightedCoordinatesStore>> {
 public:
     std::vector<Ref<IWeightedCoordinates>> ToVector() override { return m_items; }
     double WeightSum() override
@@ -65,7 +66,7 @@ Ref<IWeightedCoordinates> New5(V x, V y, V z, V t, V b, double weight)
     return Make(QG::Axes::aXYZTB, {x, y, z, t, b}, weight);
 }
 
-Ref<IWeightedCoordinatesCollection> NewCollection()
+Ref<IWeightedCoordinatesCollection> NewWeightedCoordinatesCollection()
 {
     return Ref<IWeightedCoordinatesCollection>(new CWeightedCoordinatesCollection);
 }
@@ -87,7 +88,8 @@ void RegisterWeightedCoordinates()
     WeightedCoordinates::New.Register(name, &New3);
     WeightedCoordinates::New.Register(name, &New4);
     WeightedCoordinates::New.Register(name, &New5);
-    WeightedCoordinatesCollection::New.Register(L"Weighted coordinates collection", &NewCollection);
+    WeightedCoordinatesCollection::New.Register(L"Weighted coordinates collection",
+                                                &NewWeightedCoordinatesCollection);
     WeightedCoordinatesCollection::New.Register(L"Weighted coordinates collection", &NewCollectionOf);
 }
 

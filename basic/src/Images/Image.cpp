@@ -163,7 +163,7 @@ ImageRef Wrap(BitmapRef bitmap, System::Pointer<QI::IBitmapAccess, 0> access = n
     return ImageRef(new CImage(std::move(bitmap), std::move(access)));
 }
 
-ImageRef NewEmpty()
+ImageRef NewEmptyImage()
 {
     return Wrap(QI::Bitmap::New(Geometry::Coordinates::New(Geometry::Axes::aXY)));
 }
@@ -231,7 +231,7 @@ ImageRef NewLikeOfSizeAndFormat(ImageRef model, SizeRef size, FormatRef format, 
 
 void RegisterImages()
 {
-    QI::Image::New.Register(L"Image", &NewEmpty);
+    QI::Image::New.Register(L"Image", &NewEmptyImage);
     QI::Image::New.Register(L"Image", &NewOfSize);
     QI::Image::New.Register(L"Image", &NewOfSizeAndFormat);
     QI::Image::New.Register(L"Image", &NewOnBitmap);

@@ -45,7 +45,8 @@ std::vector<double> MultiplyVector(Matrix matrix, std::vector<double> vector)
     std::vector<double> product(static_cast<std::size_t>(a.rows));
     for (std::int64_t row = 0; row < a.rows; ++row)
         for (std::int64_t column = 0; column < a.columns; ++column)
-            product[static_cast<std::size_t>(row)] += a(row, column) * vector[static_cast<std::size_t>(column)];
+            product[static_cast<std::size_t>(row)] +=
+                a(row, column) * vector[static_cast<std::size_t>(column)];
     return product;
 }
 
@@ -152,7 +153,7 @@ Matrix EigenVectorsOf(Matrix matrix)
     return SymmetricEigenVectors(std::move(a)).ToMatrix();
 }
 
-void RegisterFunctions()
+void RegisterMatrixFunctionsFunctions()
 {
     namespace MatrixD = Quilon_::Math::MatrixD;
     MatrixD::SetIdentityFunction1(&IdentityOf);
@@ -165,7 +166,8 @@ void RegisterFunctions()
     MatrixD::SetEigenVectorsFunction1(&EigenVectorsOf);
 }
 
-const System::Template::Initializer<::Library> functions(&RegisterFunctions, nullptr, 0.2f);
+const System::Template::Initializer<::Library> matrixFunctionsInitializer(&RegisterMatrixFunctionsFunctions,
+                                                                          nullptr, 0.2f);
 
 } // namespace
 

@@ -97,7 +97,7 @@ Pointer<IIntervalD, 1> NewSingleValueInterval(std::int64_t value)
 
 // The empty instances that archives are read into.
 template <class C, class I>
-Pointer<System::Interface, 1> NewEmpty()
+Pointer<System::Interface, 1> NewArchivedRange()
 {
     return Pointer<System::Interface, 1>(static_cast<I*>(new C(0, 0)));
 }
@@ -105,10 +105,10 @@ Pointer<System::Interface, 1> NewEmpty()
 void RegisterRanges()
 {
     System::Serialization::RegisterClass<CRangeOf<IRange, std::int64_t>>(
-        &NewEmpty<CRangeOf<IRange, std::int64_t>, IRange>);
+        &NewArchivedRange<CRangeOf<IRange, std::int64_t>, IRange>);
     System::Serialization::RegisterClass<CRangeOf<IRangeD, double>>(
-        &NewEmpty<CRangeOf<IRangeD, double>, IRangeD>);
-    System::Serialization::RegisterClass<CIntervalD>(&NewEmpty<CIntervalD, IIntervalD>);
+        &NewArchivedRange<CRangeOf<IRangeD, double>, IRangeD>);
+    System::Serialization::RegisterClass<CIntervalD>(&NewArchivedRange<CIntervalD, IIntervalD>);
     Range::New.Register(L"Range", &NewEmptyRange<IRange, std::int64_t>);
     Range::New.Register(L"Range", &NewRange<IRange, std::int64_t>);
     RangeD::New.Register(L"Range", &NewEmptyRange<IRangeD, double>);

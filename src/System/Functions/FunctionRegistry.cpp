@@ -40,7 +40,7 @@ std::string Demangled(const char* symbol)
 {
     int status = 0;
     std::unique_ptr<char, decltype(&std::free)> text(abi::__cxa_demangle(symbol, nullptr, nullptr, &status),
-                                                      &std::free);
+                                                     &std::free);
     std::string name = status == 0 && text ? std::string(text.get()) : std::string(symbol);
     for (auto tag = name.find("[abi:"); tag != std::string::npos; tag = name.find("[abi:", tag)) {
         const auto end = name.find(']', tag);
@@ -78,7 +78,8 @@ std::vector<FunctionRegistry::Entry> FunctionRegistry::Entries()
         std::lock_guard<std::mutex> lock(registry.lock);
         for (const Detail::Function* function : registry.functions) {
             auto known = registry.names.find(function);
-            entries.push_back(Entry{known == registry.names.end() ? std::wstring() : known->second, function});
+            entries.push_back(
+                Entry{known == registry.names.end() ? std::wstring() : known->second, function});
         }
     }
     // Names are looked up outside the registry's lock: the lookup takes the
@@ -102,6 +103,13 @@ std::vector<FunctionRegistry::Entry> FunctionRegistry::Entries()
     std::stable_sort(entries.begin(), entries.end(),
                      [](const Entry& a, const Entry& b) { return a.name < b.name; });
     return entries;
+}
+
+std::vector<const Detail::Function*> FunctionRegistry::Alive()
+{
+    Registry& registry = TheRegistry();
+    std::lock_guard<std::mutex> lock(registry.lock);
+    return {registry.functions.begin(), registry.functions.end()};
 }
 
 void FunctionRegistry::Add(const Detail::Function& function)

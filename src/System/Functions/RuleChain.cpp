@@ -75,9 +75,7 @@ void RuleChain::ReleaseAssigned()
     }
     // An operator of a library unloaded since is gone; only those still in
     // the registry are touched.
-    std::vector<const Detail::Function*> alive;
-    for (const FunctionRegistry::Entry& entry : FunctionRegistry::Entries())
-        alive.push_back(entry.function);
+    std::vector<const Detail::Function*> alive = FunctionRegistry::Alive();
     std::sort(alive.begin(), alive.end());
     for (Detail::Function* function : functions) {
         if (std::binary_search(alive.begin(), alive.end(), function))

@@ -10,8 +10,8 @@
 
 namespace Quilon_::Basic::Geometry::TwoD {
 
-using Quilon_::Geometry::TwoD::ILoops;
 using LoopsDetail::Typed;
+using Quilon_::Geometry::TwoD::ILoops;
 
 std::vector<CLoops::Loop> CLoops::AllLoops()
 {
@@ -124,23 +124,23 @@ std::int64_t CLoops::RemoveDegenerate()
 
 namespace {
 
-System::Ref<ILoops> NewEmpty()
+System::Ref<ILoops> NewEmptyLoops()
 {
     return System::Ref<ILoops>(new CLoops());
 }
 
-System::Ref<ILoops> NewOf(const std::vector<System::Ref<Drawing::IPointFCollection>>& loops)
+System::Ref<ILoops> NewLoopsOf(const std::vector<System::Ref<Drawing::IPointFCollection>>& loops)
 {
     return System::Ref<ILoops>(new CLoops(loops));
 }
 
-void Register()
+void RegisterLoops()
 {
-    Quilon_::Geometry::TwoD::Loops::New.Register(L"Loops", &NewEmpty);
-    Quilon_::Geometry::TwoD::Loops::New.Register(L"Loops", &NewOf);
+    Quilon_::Geometry::TwoD::Loops::New.Register(L"Loops", &NewEmptyLoops);
+    Quilon_::Geometry::TwoD::Loops::New.Register(L"Loops", &NewLoopsOf);
 }
 
-const System::Template::Initializer<::Library> registration(&Register, nullptr, 0.2f);
+const System::Template::Initializer<::Library> loopsInitializer(&RegisterLoops, nullptr, 0.2f);
 
 } // namespace
 

@@ -109,12 +109,12 @@ private:
     System::Ref<ILoops> m_loops;
 };
 
-System::Ref<IMultiPolygonF> NewEmpty(QG::Axes axes)
+System::Ref<IMultiPolygonF> NewEmptyMultiPolygon(QG::Axes axes)
 {
     return System::Ref<IMultiPolygonF>(new CMultiPolygonF(System::Ref<ILoops>(new CLoops()), axes));
 }
 
-System::Ref<IMultiPolygonF> NewOf(System::Ref<ILoops> loops, QG::Axes axes)
+System::Ref<IMultiPolygonF> NewMultiPolygonOf(System::Ref<ILoops> loops, QG::Axes axes)
 {
     return System::Ref<IMultiPolygonF>(new CMultiPolygonF(std::move(loops), axes));
 }
@@ -129,15 +129,16 @@ bool MultiPolygonContains(System::Ref<IMultiPolygonF> region, const Drawing::Poi
     return EvenOddContains(ReadLoops(region->Loops()), point);
 }
 
-void Register()
+void RegisterMultiPolygonF()
 {
-    QG::TwoD::MultiPolygonF::New.Register(L"Multi-polygon", &NewEmpty);
-    QG::TwoD::MultiPolygonF::New.Register(L"Multi-polygon", &NewOf);
+    QG::TwoD::MultiPolygonF::New.Register(L"Multi-polygon", &NewEmptyMultiPolygon);
+    QG::TwoD::MultiPolygonF::New.Register(L"Multi-polygon", &NewMultiPolygonOf);
     QG::TwoD::MultiPolygonF::SetAreaFunction1(&MultiPolygonArea);
     QG::TwoD::MultiPolygonF::SetContainsFunction1(&MultiPolygonContains);
 }
 
-const System::Template::Initializer<::Library> registration(&Register, nullptr, 0.2f);
+const System::Template::Initializer<::Library> multiPolygonFInitializer(&RegisterMultiPolygonF, nullptr,
+                                                                        0.2f);
 
 } // namespace
 

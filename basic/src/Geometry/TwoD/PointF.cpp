@@ -83,13 +83,13 @@ System::Ref<QG::TwoD::IPointF> NewAt(float x, float y, QG::Axes axes)
     return System::Ref<QG::TwoD::IPointF>(new CPointF(PointF(x, y), axes));
 }
 
-void Register()
+void RegisterPointF()
 {
     QG::TwoD::PointF::New.Register(L"Point", &NewAtOrigin);
     QG::TwoD::PointF::New.Register(L"Point", &NewAt);
 }
 
-const System::Template::Initializer<::Library> registration(&Register, nullptr, 0.2f);
+const System::Template::Initializer<::Library> pointFInitializer(&RegisterPointF, nullptr, 0.2f);
 
 } // namespace
 

@@ -124,23 +124,24 @@ double CPointFCollection::Length(bool closed)
 
 namespace {
 
-System::Ref<Drawing::IPointFCollection> NewEmpty()
+System::Ref<Drawing::IPointFCollection> NewEmptyPointList()
 {
     return CPointFCollection::Make({});
 }
 
-System::Ref<Drawing::IPointFCollection> NewOf(const std::vector<Drawing::Point<float>>& points)
+System::Ref<Drawing::IPointFCollection> NewPointListOf(const std::vector<Drawing::Point<float>>& points)
 {
     return CPointFCollection::Make(points);
 }
 
-void Register()
+void RegisterPointFCollection()
 {
-    Drawing::PointFCollection::New.Register(L"Point list", &NewEmpty);
-    Drawing::PointFCollection::New.Register(L"Point list", &NewOf);
+    Drawing::PointFCollection::New.Register(L"Point list", &NewEmptyPointList);
+    Drawing::PointFCollection::New.Register(L"Point list", &NewPointListOf);
 }
 
-const System::Template::Initializer<::Library> registration(&Register, nullptr, 0.2f);
+const System::Template::Initializer<::Library> pointFCollectionInitializer(&RegisterPointFCollection, nullptr,
+                                                                           0.2f);
 
 } // namespace
 

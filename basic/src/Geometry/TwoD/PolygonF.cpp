@@ -52,12 +52,12 @@ private:
     System::Ref<Drawing::IPointFCollection> m_points;
 };
 
-System::Ref<IPolygonF> NewEmpty(QG::Axes axes)
+System::Ref<IPolygonF> NewEmptyPolygon(QG::Axes axes)
 {
     return System::Ref<IPolygonF>(new CPolygonF(CPointFCollection::Make({}), axes));
 }
 
-System::Ref<IPolygonF> NewOf(System::Ref<Drawing::IPointFCollection> points, QG::Axes axes)
+System::Ref<IPolygonF> NewPolygonOf(System::Ref<Drawing::IPointFCollection> points, QG::Axes axes)
 {
     return System::Ref<IPolygonF>(new CPolygonF(std::move(points), axes));
 }
@@ -69,18 +69,18 @@ double PolygonArea(System::Ref<IPolygonF> polygon)
 
 System::Ref<IPolygonF> PolygonConvexHull(System::Ref<IPolygonF> polygon)
 {
-    return NewOf(CPointFCollection::Make(ConvexHull(polygon->Points()->Points())), polygon->Axes());
+    return NewPolygonOf(CPointFCollection::Make(ConvexHull(polygon->Points()->Points())), polygon->Axes());
 }
 
-void Register()
+void RegisterPolygonF()
 {
-    QG::TwoD::PolygonF::New.Register(L"Polygon", &NewEmpty);
-    QG::TwoD::PolygonF::New.Register(L"Polygon", &NewOf);
+    QG::TwoD::PolygonF::New.Register(L"Polygon", &NewEmptyPolygon);
+    QG::TwoD::PolygonF::New.Register(L"Polygon", &NewPolygonOf);
     QG::TwoD::PolygonF::SetAreaFunction1(&PolygonArea);
     QG::TwoD::PolygonF::SetConvexHullFunction1(&PolygonConvexHull);
 }
 
-const System::Template::Initializer<::Library> registration(&Register, nullptr, 0.2f);
+const System::Template::Initializer<::Library> polygonFInitializer(&RegisterPolygonF, nullptr, 0.2f);
 
 } // namespace
 

@@ -201,7 +201,7 @@ void LinearScale(ImageRef input, ImageRef output, RangeRef from, RangeRef to)
     });
 }
 
-void Register()
+void RegisterArithmetic()
 {
     const System::LIString name(L"Sample by sample", false);
     Fn::Abs.Register(name, &Abs);
@@ -222,7 +222,7 @@ void Register()
     Fn::Subtract.Overload<1>().Register(name, &SubtractImage);
 }
 
-const System::Template::Initializer<::Library> registration(&Register, nullptr, 0.2f);
+const System::Template::Initializer<::Library> arithmeticInitializer(&RegisterArithmetic, nullptr, 0.2f);
 
 } // namespace
 

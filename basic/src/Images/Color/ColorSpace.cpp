@@ -227,7 +227,7 @@ void StopColorSpaces()
     Quilon_::Images::Color::Globals::ClearColorSpaces();
 }
 
-const System::Template::Initializer<::Library> registration(&RegisterColorSpaces, nullptr, 0.2f);
+const System::Template::Initializer<::Library> colorSpaceInitializer(&RegisterColorSpaces, nullptr, 0.2f);
 // After the classes and the ranges are registered (0.2).
 const SettingsLifetime colorSpaces(&StartColorSpaces, &StopColorSpaces, 0.3f);
 

@@ -86,7 +86,7 @@ void ExcessRGB(ImageRef input, ImageRef output)
     });
 }
 
-void Register()
+void RegisterColorUtility()
 {
     const System::LIString name(L"Sample by sample", false);
     Fn::ExcessRGB.Register(name, &ExcessRGB);
@@ -94,7 +94,7 @@ void Register()
     Fn::Intensity.Register(name, &Intensity);
 }
 
-const System::Template::Initializer<::Library> registration(&Register, nullptr, 0.2f);
+const System::Template::Initializer<::Library> colorUtilityInitializer(&RegisterColorUtility, nullptr, 0.2f);
 
 } // namespace
 

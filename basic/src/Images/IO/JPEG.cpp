@@ -18,9 +18,9 @@ namespace Quilon_::Basic::Images::IO {
 
 namespace {
 
-const wchar_t* const formatName = L"JPEG";
+const wchar_t* const jpegFormatName = L"JPEG";
 
-struct WriterOptions {
+struct JPEGWriterOptions {
     std::int64_t quality = 90;
     bool progressive = false;
     bool optimize = false;
@@ -100,7 +100,7 @@ bool RunReader(const std::uint8_t* bytes, std::int64_t count, ErrorManager& erro
 
 class CJPEGReader : public ReaderBase<CJPEGReader> {
 public:
-    std::wstring Name() override { return formatName; }
+    std::wstring Name() override { return jpegFormatName; }
     std::vector<std::wstring> Extensions() override { return {L"jpg", L"jpeg", L"jpe", L"jfif"}; }
     std::int64_t SignatureSize() override { return 3; }
     bool CanRead(const std::uint8_t* bytes, std::int64_t count) override
@@ -134,7 +134,7 @@ public:
 
 // Writes every row of `source`; within RunWriter's jump buffer.
 void Compress(jpeg_compress_struct& info, std::FILE* stream, const ImageLayout& layout,
-              const RowReader& source, std::vector<std::uint8_t>& row, const WriterOptions& options)
+              const RowReader& source, std::vector<std::uint8_t>& row, const JPEGWriterOptions& options)
 {
     jpeg_stdio_dest(&info, stream);
     info.image_width = JDIMENSION(layout.width);
@@ -156,7 +156,7 @@ void Compress(jpeg_compress_struct& info, std::FILE* stream, const ImageLayout& 
 }
 
 bool RunWriter(std::FILE* stream, ErrorManager& errors, const ImageLayout& layout, const RowReader& source,
-               std::vector<std::uint8_t>& row, const WriterOptions& options)
+               std::vector<std::uint8_t>& row, const JPEGWriterOptions& options)
 {
     jpeg_compress_struct info{};
     info.err = &InstallErrors(errors)->base;
@@ -196,7 +196,7 @@ public:
         return System::Pointer<System::ICloneable, 1>(copy);
     }
 
-    std::wstring Name() override { return formatName; }
+    std::wstring Name() override { return jpegFormatName; }
     std::vector<std::wstring> Extensions() override { return {L"jpg", L"jpeg", L"jpe", L"jfif"}; }
     System::Nullable<Quilon_::IO::ConversionOptionsEnum> Conversion(ImageRef image) override
     {
@@ -209,19 +209,19 @@ public:
     void Write(ImageRef image, const std::wstring& fileName) override
     {
         if (!Conversion(image).HasValue())
-            RaiseUnwritable(formatName, fileName, L"only single grey or RGB images can be stored");
+            RaiseUnwritable(jpegFormatName, fileName, L"only single grey or RGB images can be stored");
         const ImageLayout layout = *LayoutOf(image);
         const RowReader source(image, layout);
         std::vector<std::uint8_t> row(std::size_t(layout.SamplesPerRow()));
-        TemporaryFile file(fileName, formatName);
+        TemporaryFile file(fileName, jpegFormatName);
         ErrorManager errors;
         if (!RunWriter(file.Stream(), errors, layout, source, row, m_options))
-            RaiseUnwritable(formatName, fileName, System::ToString(std::string(errors.message)));
+            RaiseUnwritable(jpegFormatName, fileName, System::ToString(std::string(errors.message)));
         file.Commit();
     }
 
 private:
-    WriterOptions m_options;
+    JPEGWriterOptions m_options;
 };
 
 } // namespace

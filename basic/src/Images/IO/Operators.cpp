@@ -242,7 +242,7 @@ void ImportSlice(ImageRef image, const std::wstring& fileName, Geometry::AxisEnu
     CopySlice(image, file, position, index, false);
 }
 
-void RegisterOperators()
+void RegisterOperatorsOperators()
 {
     QI::IO::Functions::Read.Register(L"Image files", &ReadImage);
     QI::IO::Functions::Write.Register(L"Image files", &WriteImage);
@@ -250,7 +250,8 @@ void RegisterOperators()
     QI::IO::Functions::Export.Register(L"Image files", &ExportSlice);
 }
 
-const System::Template::Initializer<::Library> operators(&RegisterOperators, nullptr, 0.2f);
+const System::Template::Initializer<::Library> operatorsInitializer(&RegisterOperatorsOperators, nullptr,
+                                                                    0.2f);
 
 } // namespace
 

@@ -18,10 +18,10 @@ namespace Quilon_::Basic::Images::IO {
 
 namespace {
 
-const wchar_t* const formatName = L"PNG";
+const wchar_t* const pngFormatName = L"PNG";
 
 // What the callbacks share with the function that holds the jump buffer.
-struct Session {
+struct PNGSession {
     const std::uint8_t* bytes = nullptr;
     std::size_t count = 0;
     std::size_t position = 0;
@@ -30,7 +30,7 @@ struct Session {
 
 void ReadBytes(png_structp png, png_bytep out, png_size_t count)
 {
-    auto* session = static_cast<Session*>(png_get_io_ptr(png));
+    auto* session = static_cast<PNGSession*>(png_get_io_ptr(png));
     if (count > session->count - session->position)
         png_error(png, "the file is truncated");
     std::memcpy(out, session->bytes + session->position, count);
@@ -39,7 +39,7 @@ void ReadBytes(png_structp png, png_bytep out, png_size_t count)
 
 void OnError(png_structp png, png_const_charp message)
 {
-    auto* session = static_cast<Session*>(png_get_error_ptr(png));
+    auto* session = static_cast<PNGSession*>(png_get_error_ptr(png));
     std::snprintf(session->message, sizeof session->message, "%s", message);
     png_longjmp(png, 1);
 }
@@ -48,14 +48,14 @@ void OnError(png_structp png, png_const_charp message)
 // stop reading, and nothing shows them.
 void OnWarning(png_structp, png_const_charp) {}
 
-std::wstring MessageOf(const Session& session)
+std::wstring MessageOf(const PNGSession& session)
 {
     return System::ToString(std::string(session.message));
 }
 
 class ReadStructs {
 public:
-    explicit ReadStructs(Session& session)
+    explicit ReadStructs(PNGSession& session)
     {
         png = png_create_read_struct(PNG_LIBPNG_VER_STRING, &session, &OnError, &OnWarning);
         if (png)
@@ -69,7 +69,7 @@ public:
 // Reads the header, sets the transformations, and with `pixels` decodes
 // every row into it, rows of layout.SamplesPerRow() samples. False with the
 // session's message on failure.
-bool RunReader(Session& session, ImageLayout& layout, std::vector<std::uint8_t>* pixels,
+bool RunReader(PNGSession& session, ImageLayout& layout, std::vector<std::uint8_t>* pixels,
                std::vector<png_bytep>& rows)
 {
     ReadStructs structs(session);
@@ -114,7 +114,7 @@ bool RunReader(Session& session, ImageLayout& layout, std::vector<std::uint8_t>*
 
 class CPNGReader : public ReaderBase<CPNGReader> {
 public:
-    std::wstring Name() override { return formatName; }
+    std::wstring Name() override { return pngFormatName; }
     std::vector<std::wstring> Extensions() override { return {L"png"}; }
     std::int64_t SignatureSize() override { return 8; }
     bool CanRead(const std::uint8_t* bytes, std::int64_t count) override
@@ -126,7 +126,7 @@ public:
     {
         if (!CanRead(Bytes(), ByteCount()))
             Unreadable(L"no PNG signature");
-        Session session = Open();
+        PNGSession session = Open();
         ImageLayout layout;
         std::vector<png_bytep> rows;
         if (!RunReader(session, layout, nullptr, rows))
@@ -136,7 +136,7 @@ public:
 
     void Decode(const ImageRef& image)
     {
-        Session session = Open();
+        PNGSession session = Open();
         ImageLayout layout;
         std::vector<std::uint8_t> pixels;
         std::vector<png_bytep> rows;
@@ -149,9 +149,9 @@ public:
     }
 
 private:
-    Session Open() const
+    PNGSession Open() const
     {
-        Session session;
+        PNGSession session;
         session.bytes = Bytes();
         session.count = std::size_t(ByteCount());
         return session;
@@ -173,7 +173,7 @@ private:
 
 class WriteStructs {
 public:
-    explicit WriteStructs(Session& session)
+    explicit WriteStructs(PNGSession& session)
     {
         png = png_create_write_struct(PNG_LIBPNG_VER_STRING, &session, &OnError, &OnWarning);
         if (png)
@@ -184,7 +184,7 @@ public:
     png_infop info = nullptr;
 };
 
-struct WriterOptions {
+struct PNGWriterOptions {
     int level = 6;
     bool interlaced = false;
     double gamma = 0;
@@ -194,8 +194,8 @@ struct WriterOptions {
 // libpng failed. Interlaced files need every row once per pass: the rows
 // are then read once into `image`, a buffer of the whole image.
 template <class T>
-bool RunWriter(Session& session, std::FILE* stream, const ImageLayout& layout, const RowReader& source,
-               std::vector<T>& row, std::vector<T>& image, const WriterOptions& options)
+bool RunWriter(PNGSession& session, std::FILE* stream, const ImageLayout& layout, const RowReader& source,
+               std::vector<T>& row, std::vector<T>& image, const PNGWriterOptions& options)
 {
     WriteStructs structs(session);
     if (!structs.info) {
@@ -241,7 +241,7 @@ bool RunWriter(Session& session, std::FILE* stream, const ImageLayout& layout, c
 class CPNGWriter
     : public System::Template::ObjectImpl<CPNGWriter, QI::IO::IPNGImageWriter, System::ICloneable> {
 public:
-    std::wstring Name() override { return formatName; }
+    std::wstring Name() override { return pngFormatName; }
     std::vector<std::wstring> Extensions() override { return {L"png"}; }
     System::Nullable<Quilon_::IO::ConversionOptionsEnum> Conversion(ImageRef image) override
     {
@@ -254,11 +254,12 @@ public:
     void Write(ImageRef image, const std::wstring& fileName) override
     {
         if (!Conversion(image).HasValue())
-            RaiseUnwritable(formatName, fileName, L"only single images of one to four bands can be stored");
+            RaiseUnwritable(pngFormatName, fileName,
+                            L"only single images of one to four bands can be stored");
         const ImageLayout layout = *LayoutOf(image);
         const RowReader source(image, layout);
-        TemporaryFile file(fileName, formatName);
-        Session session;
+        TemporaryFile file(fileName, pngFormatName);
+        PNGSession session;
         bool written = false;
         if (PlanStorage(layout.type, {System::ntUInt8, System::ntUInt16})->type == System::ntUInt16) {
             std::vector<std::uint16_t> row(std::size_t(layout.SamplesPerRow()));
@@ -270,7 +271,7 @@ public:
             written = RunWriter(session, file.Stream(), layout, source, row, whole, m_options);
         }
         if (!written)
-            RaiseUnwritable(formatName, fileName, MessageOf(session));
+            RaiseUnwritable(pngFormatName, fileName, MessageOf(session));
         file.Commit();
     }
 
@@ -298,7 +299,7 @@ public:
     }
 
 private:
-    WriterOptions m_options;
+    PNGWriterOptions m_options;
 };
 
 } // namespace

@@ -11,7 +11,7 @@ namespace Quilon_::Basic::Images::IO {
 
 namespace {
 
-const wchar_t* const formatName = L"PNM";
+const wchar_t* const pnmFormatName = L"PNM";
 
 // A cursor over the header and the ASCII samples: numbers separated by
 // white space, comments from '#' to the end of the line.
@@ -72,7 +72,7 @@ private:
 
 class CPNMReader : public ReaderBase<CPNMReader> {
 public:
-    std::wstring Name() override { return formatName; }
+    std::wstring Name() override { return pnmFormatName; }
     std::vector<std::wstring> Extensions() override { return {L"pgm", L"ppm", L"pnm"}; }
     std::int64_t SignatureSize() override { return 3; }
     bool CanRead(const std::uint8_t* bytes, std::int64_t count) override
@@ -167,7 +167,7 @@ private:
 
 class CPNMWriter : public System::Template::ObjectImpl<CPNMWriter, QI::IO::IBitmapWriter> {
 public:
-    std::wstring Name() override { return formatName; }
+    std::wstring Name() override { return pnmFormatName; }
     std::vector<std::wstring> Extensions() override { return {L"pgm", L"ppm", L"pnm"}; }
     System::Nullable<Quilon_::IO::ConversionOptionsEnum> Conversion(ImageRef image) override
     {
@@ -180,7 +180,8 @@ public:
     {
         const std::optional<ImageLayout> layout = LayoutOf(image);
         if (!Conversion(image).HasValue())
-            RaiseUnwritable(formatName, fileName, L"only single images of one or three bands can be stored");
+            RaiseUnwritable(pnmFormatName, fileName,
+                            L"only single images of one or three bands can be stored");
         if (PlanStorage(layout->type, {System::ntUInt8, System::ntUInt16})->type == System::ntUInt16)
             WriteAs<std::uint16_t>(image, *layout, fileName);
         else
@@ -191,7 +192,7 @@ private:
     template <class T>
     static void WriteAs(const ImageRef& image, const ImageLayout& layout, const std::wstring& fileName)
     {
-        TemporaryFile file(fileName, formatName);
+        TemporaryFile file(fileName, pnmFormatName);
         const std::string header = std::string(layout.bands == 3 ? "P6\n" : "P5\n") +
                                    std::to_string(layout.width) + " " + std::to_string(layout.height) + "\n" +
                                    (sizeof(T) == 2 ? "65535\n" : "255\n");

@@ -23,11 +23,11 @@ namespace Quilon_::Basic::Images::IO {
 
 namespace {
 
-const wchar_t* const formatName = L"TIFF";
+const wchar_t* const tiffFormatName = L"TIFF";
 
 // The file in memory that libtiff reads through the client procedures, and
 // the last error it reported.
-struct Session {
+struct TIFFSession {
     const std::uint8_t* bytes = nullptr;
     toff_t count = 0;
     toff_t position = 0;
@@ -36,7 +36,7 @@ struct Session {
 
 tmsize_t ReadProc(thandle_t handle, void* out, tmsize_t size)
 {
-    auto* session = static_cast<Session*>(handle);
+    auto* session = static_cast<TIFFSession*>(handle);
     if (size < 0)
         return -1;
     const toff_t available = session->position < session->count ? session->count - session->position : 0;
@@ -53,7 +53,7 @@ tmsize_t WriteProc(thandle_t, void*, tmsize_t)
 
 toff_t SeekProc(thandle_t handle, toff_t offset, int whence)
 {
-    auto* session = static_cast<Session*>(handle);
+    auto* session = static_cast<TIFFSession*>(handle);
     toff_t base = 0;
     if (whence == SEEK_CUR)
         base = session->position;
@@ -71,7 +71,7 @@ int CloseProc(thandle_t)
 
 toff_t SizeProc(thandle_t handle)
 {
-    return static_cast<Session*>(handle)->count;
+    return static_cast<TIFFSession*>(handle)->count;
 }
 
 int OnError(TIFF*, void* user, const char* module, const char* format, va_list arguments)
@@ -180,7 +180,7 @@ PageShape ShapeOf(TIFF* tiff)
 
 class CTIFFReader : public ReaderBase<CTIFFReader, QI::IO::IMultiPageBitmapReader> {
 public:
-    std::wstring Name() override { return formatName; }
+    std::wstring Name() override { return tiffFormatName; }
     std::vector<std::wstring> Extensions() override { return {L"tif", L"tiff"}; }
     std::int64_t SignatureSize() override { return 4; }
     bool CanRead(const std::uint8_t* bytes, std::int64_t count) override
@@ -199,7 +199,7 @@ public:
     {
         if (!CanRead(Bytes(), ByteCount()))
             Unreadable(L"no TIFF signature");
-        Session session = NewSession();
+        TIFFSession session = NewSession();
         Options options(session.error);
         Handle tiff(Open(session, options));
         const PageShape first = ShapeOf(tiff.Get());
@@ -246,15 +246,15 @@ public:
     }
 
 private:
-    Session NewSession() const
+    TIFFSession NewSession() const
     {
-        Session session;
+        TIFFSession session;
         session.bytes = Bytes();
         session.count = toff_t(ByteCount());
         return session;
     }
 
-    TIFF* Open(Session& session, const Options& options)
+    TIFF* Open(TIFFSession& session, const Options& options)
     {
         const std::string name = System::ToAnsi(FileName());
         TIFF* tiff = TIFFClientOpenExt(name.c_str(), "rm", &session, &ReadProc, &WriteProc, &SeekProc,
@@ -264,7 +264,7 @@ private:
         return tiff;
     }
 
-    [[noreturn]] void Fail(const Session& session)
+    [[noreturn]] void Fail(const TIFFSession& session)
     {
         Unreadable(session.error.empty() ? std::wstring(L"the file is corrupt")
                                          : System::ToString(session.error));
@@ -291,7 +291,7 @@ private:
     template <class T>
     void DecodeAs(const ImageRef& image, const ImageLayout& layout, std::int64_t first)
     {
-        Session session = NewSession();
+        TIFFSession session = NewSession();
         Options options(session.error);
         Handle tiff(Open(session, options));
         if (first > 0 && !TIFFSetDirectory(tiff.Get(), tdir_t(first)))
@@ -311,7 +311,7 @@ private:
     }
 
     template <class T>
-    void ReadStrips(TIFF* tiff, Session& session, std::vector<T>& page)
+    void ReadStrips(TIFF* tiff, TIFFSession& session, std::vector<T>& page)
     {
         const ImageLayout& layout = Layout();
         const std::int64_t rowBytes = layout.SamplesPerRow() * std::int64_t(sizeof(T));
@@ -332,7 +332,7 @@ private:
     }
 
     template <class T>
-    void ReadTiles(TIFF* tiff, Session& session, std::vector<T>& page)
+    void ReadTiles(TIFF* tiff, TIFFSession& session, std::vector<T>& page)
     {
         const ImageLayout& layout = Layout();
         std::uint32_t tileWidth = 0;
@@ -366,7 +366,7 @@ const std::initializer_list<NumericTypeEnum> storedTypes = {
     System::ntUInt8,  System::ntInt8,  System::ntUInt16, System::ntInt16,
     System::ntUInt32, System::ntInt32, System::ntFloat,  System::ntDouble};
 
-struct WriterOptions {
+struct TIFFWriterOptions {
     QI::IO::TIFFCompressionEnum compression = QI::IO::tcDeflate;
     bool predictor = false;
     std::int64_t rowsPerStrip = 0;
@@ -414,7 +414,7 @@ void CheckResolution(double resolution)
 class CTIFFWriter
     : public System::Template::ObjectImpl<CTIFFWriter, QI::IO::ITIFFWriter, System::ICloneable> {
 public:
-    std::wstring Name() override { return formatName; }
+    std::wstring Name() override { return tiffFormatName; }
     std::vector<std::wstring> Extensions() override { return {L"tif", L"tiff"}; }
     System::Nullable<Quilon_::IO::ConversionOptionsEnum> Conversion(ImageRef image) override
     {
@@ -427,7 +427,7 @@ public:
     void Write(ImageRef image, const std::wstring& fileName) override
     {
         if (!Conversion(image).HasValue())
-            RaiseUnwritable(formatName, fileName, L"only images of one to four bands can be stored");
+            RaiseUnwritable(tiffFormatName, fileName, L"only images of one to four bands can be stored");
         const ImageLayout layout = *LayoutOf(image);
         DispatchSampleType(PlanStorage(layout.type, storedTypes)->type, [&](auto tag) {
             using T = typename decltype(tag)::type;
@@ -565,7 +565,7 @@ private:
     template <class T>
     void WriteAs(const ImageRef& image, const ImageLayout& layout, const std::wstring& fileName) const
     {
-        TemporaryFile file(fileName, formatName);
+        TemporaryFile file(fileName, tiffFormatName);
         std::string error;
         Options options(error);
         // libtiff closes the descriptor it is given: it gets a copy, and the
@@ -575,7 +575,7 @@ private:
         if (!tiff.Get()) {
             if (descriptor >= 0)
                 ::close(descriptor);
-            RaiseUnwritable(formatName, fileName, System::ToString(error));
+            RaiseUnwritable(tiffFormatName, fileName, System::ToString(error));
         }
         const RowReader source(image, layout);
         std::vector<T> row(std::size_t(layout.SamplesPerRow()));
@@ -591,15 +591,15 @@ private:
                     written = TIFFWriteScanline(t, row.data(), std::uint32_t(y), 0) >= 0;
                 }
             if (!written || !TIFFWriteDirectory(t))
-                RaiseUnwritable(formatName, fileName, System::ToString(error));
+                RaiseUnwritable(tiffFormatName, fileName, System::ToString(error));
         }
         tiff.Close();
         if (!error.empty())
-            RaiseUnwritable(formatName, fileName, System::ToString(error));
+            RaiseUnwritable(tiffFormatName, fileName, System::ToString(error));
         file.Commit();
     }
 
-    WriterOptions m_options;
+    TIFFWriterOptions m_options;
 };
 
 } // namespace

@@ -249,7 +249,7 @@ void RightShift(ImageRef input, ImageRef output, std::int64_t count)
     Shift(input, output, count == std::numeric_limits<std::int64_t>::min() ? count + 1 : -count);
 }
 
-void Register()
+void RegisterLogic()
 {
     const System::LIString name(L"Sample by sample", false);
     Fn::And.Register(name, &And);
@@ -275,7 +275,7 @@ void Register()
     Fn::RightShift.Register(name, &RightShift);
 }
 
-const System::Template::Initializer<::Library> registration(&Register, nullptr, 0.2f);
+const System::Template::Initializer<::Library> logicInitializer(&RegisterLogic, nullptr, 0.2f);
 
 } // namespace
 

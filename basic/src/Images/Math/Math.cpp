@@ -197,7 +197,7 @@ void MatrixMultiply(ImageRef input, ImageRef output, MatrixRef matrix)
     });
 }
 
-void Register()
+void RegisterMath()
 {
     const System::LIString name(L"Sample by sample", false);
     Fn::ACos.Register(name, &ACos);
@@ -222,7 +222,7 @@ void Register()
     Fn::Tan.Register(name, &Tan);
 }
 
-const System::Template::Initializer<::Library> registration(&Register, nullptr, 0.2f);
+const System::Template::Initializer<::Library> mathInitializer(&RegisterMath, nullptr, 0.2f);
 
 } // namespace
 

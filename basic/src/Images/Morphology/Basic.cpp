@@ -134,7 +134,7 @@ void BlackTophatByGraph(ImageRef in, ImageRef out, GraphRef graph, std::int64_t 
     OpenOrClose(in, out, ShiftsOf(*graph, true), CheckedIterations(size), false, Residue::black);
 }
 
-void Register()
+void RegisterBasic()
 {
     const wchar_t* name = L"Reference morphology";
     namespace B = Catalogue::Basic::Functions;
@@ -154,7 +154,7 @@ void Register()
     S::BlackTophat.Overload<1>().Register(name, &BlackTophatByGraph);
 }
 
-const System::Template::Initializer<::Library> operators(&Register, nullptr, 0.2f);
+const System::Template::Initializer<::Library> basicInitializer(&RegisterBasic, nullptr, 0.2f);
 
 } // namespace
 

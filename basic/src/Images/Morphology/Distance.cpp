@@ -48,14 +48,14 @@ void GraphDistance(ImageRef in, ImageRef out, System::Ref<Geometry::INgbGraph> g
                [&](const Grid& grid, double* values) { GraphDistanceTransform(grid, values, shifts); });
 }
 
-void Register()
+void RegisterDistance()
 {
     const wchar_t* name = L"Reference morphology";
     Catalogue::Distance::Functions::Distance.Overload<0>().Register(name, &EuclideanDistance);
     Catalogue::Distance::Functions::Distance.Overload<1>().Register(name, &GraphDistance);
 }
 
-const System::Template::Initializer<::Library> operators(&Register, nullptr, 0.2f);
+const System::Template::Initializer<::Library> distanceInitializer(&RegisterDistance, nullptr, 0.2f);
 
 } // namespace
 

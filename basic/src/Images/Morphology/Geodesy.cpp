@@ -211,7 +211,7 @@ void GeodesicDistanceByGraph(ImageRef mask, ImageRef seeds, ImageRef out, GraphR
     GeodesicDistanceWith(mask, seeds, out, ShiftsOfGraph(graph));
 }
 
-void Register()
+void RegisterGeodesy()
 {
     const wchar_t* name = L"Reference morphology";
     namespace G = Catalogue::Geodesy::Functions;
@@ -229,7 +229,7 @@ void Register()
     G::Distance.Overload<1>().Register(name, &GeodesicDistanceByGraph);
 }
 
-const System::Template::Initializer<::Library> operators(&Register, nullptr, 0.2f);
+const System::Template::Initializer<::Library> geodesyInitializer(&RegisterGeodesy, nullptr, 0.2f);
 
 } // namespace
 

@@ -50,7 +50,7 @@ inline constexpr int slotT = 3;
 inline constexpr int slotB = 4;
 
 // The slot of an axis (aX to aB).
-constexpr int SlotOf(Geometry::AxisEnum axis) noexcept
+constexpr int SlotOf(Quilon_::Geometry::AxisEnum axis) noexcept
 {
     return std::countr_zero(static_cast<unsigned>(axis));
 }
@@ -462,7 +462,7 @@ void TransformBands(const AnyView& output, const AnyView& input, Kernel&& kernel
 // Gives `output` the size `size` and a plain (uniform) format of `type` in
 // the storage order of `model`'s format, unless it has them already; the
 // samples are not kept. For operators whose chain has no make rule.
-void Shape(const ImageRef& output, const System::Ref<Geometry::ICoordinates>& size,
+void Shape(const ImageRef& output, const System::Ref<Quilon_::Geometry::ICoordinates>& size,
            System::NumericTypeEnum type, const ImageRef& model);
 
 } // namespace Quilon_::Basic::Images::Operators

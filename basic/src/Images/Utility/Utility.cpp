@@ -355,7 +355,7 @@ void Paste(ImageRef source, ImageRef destination, SizeRef location)
     CopyView(Part(to, toLower, size), Part(from, fromLower, sourceSize));
 }
 
-void Register()
+void RegisterUtility()
 {
     const System::LIString name(L"Sample by sample", false);
     Fn::Clear.Register(name, &Clear);
@@ -377,7 +377,7 @@ void Register()
     Fn::SubCopy.Overload<1>().Register(name, &SubCopyOf);
 }
 
-const System::Template::Initializer<::Library> registration(&Register, nullptr, 0.2f);
+const System::Template::Initializer<::Library> utilityInitializer(&RegisterUtility, nullptr, 0.2f);
 
 } // namespace
 

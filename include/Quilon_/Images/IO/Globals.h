@@ -17,6 +17,11 @@ namespace Quilon_::System::Collections {
 class IStringCollection;
 } // namespace Quilon_::System::Collections
 
+namespace Quilon_::IO {
+class IExtendedPropertiesReaderCollection;
+class IExtendedPropertiesWriterCollection;
+} // namespace Quilon_::IO
+
 namespace Quilon_::Images::IO {
 class IBitmapReaderCollection;
 class IBitmapWriterCollection;
@@ -32,5 +37,17 @@ QUILON_DECLARE_SETTING(BitmapReaders, SetBitmapReaders, ClearBitmapReaders,
                        System::Ref<IBitmapReaderCollection>);
 QUILON_DECLARE_SETTING(BitmapWriters, SetBitmapWriters, ClearBitmapWriters,
                        System::Ref<IBitmapWriterCollection>);
+
+// The readers and writers of the extended properties of image files.
+// ClearX() drops every thread's list; ClearCollectionX() empties the calling
+// thread's list and keeps the object.
+QUILON_DECLARE_SETTING(ExtendedPropertiesReaders, SetExtendedPropertiesReaders,
+                       ClearExtendedPropertiesReaders,
+                       System::Ref<Quilon_::IO::IExtendedPropertiesReaderCollection>);
+QUILON_DECLARE_SETTING(ExtendedPropertiesWriters, SetExtendedPropertiesWriters,
+                       ClearExtendedPropertiesWriters,
+                       System::Ref<Quilon_::IO::IExtendedPropertiesWriterCollection>);
+QUILON_API void ClearCollectionExtendedPropertiesReaders();
+QUILON_API void ClearCollectionExtendedPropertiesWriters();
 
 } // namespace Quilon_::Images::IO::Globals

@@ -33,6 +33,9 @@ public:
     // Every operator, ordered by name; those of one object in the order of
     // construction.
     static std::vector<Entry> Entries();
+    // The operators alive now, unnamed and unordered: naming them looks up
+    // every exported symbol, which is far too slow for a check at shut-down.
+    static std::vector<const Detail::Function*> Alive();
 
     // For the constructors and the destructor of Detail::Function only. Safe
     // during static construction and destruction of any library.

@@ -193,7 +193,7 @@ BitmapView<T> BitmapView<T>::Of(System::Pointer<Quilon_::Images::IBitmap, 1> bit
     if (!sameType)
         QUILON_RAISE(L"Bitmap samples are not of the requested type: %1%", System::ToString(type));
     BitmapView view;
-    System::Pointer<Geometry::ICoordinates, 1> extent = bitmap->Size();
+    System::Pointer<Quilon_::Geometry::ICoordinates, 1> extent = bitmap->Size();
     const std::vector<std::int64_t> strides = bitmap->Strides();
     view.axisCount = static_cast<int>(strides.size());
     for (int axis = 0; axis < view.axisCount && axis < maxViewAxes; ++axis) {
