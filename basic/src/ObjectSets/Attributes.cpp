@@ -26,15 +26,6 @@
 
 namespace Quilon_::Basic::ObjectSets {
 
-template <class T>
-requires std::is_arithmetic_v<T> T CellTraits<T>::From(const System::Any& value)
-{
-    // Strings and other kinds fail with the cast error, as the text says.
-    if (!System::Helper::IsScalar(value))
-        return value.CastTo<T>();
-    return static_cast<T>(System::Helper::ScalarValue(value));
-}
-
 namespace {
 
 using System::LIString;

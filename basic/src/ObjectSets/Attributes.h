@@ -16,6 +16,7 @@
 #include "Quilon_/ObjectSets/AttributeDictionary.h"
 #include "Quilon_/ObjectSets/AttributeValue.h"
 #include "Quilon_/ObjectSets/ObjectSet.h"
+#include "Quilon_/System/Helper.h"
 #include "Quilon_/System/ObjectImpl.h"
 
 #include <utility>
@@ -47,7 +48,13 @@ template <class T>
 requires std::is_arithmetic_v<T>
 struct CellTraits<T> {
     static System::Any To(const T& value) { return System::ToAny(value); }
-    static T From(const System::Any& value);
+    // Strings and other kinds fail with the cast error.
+    static T From(const System::Any& value)
+    {
+        if (!System::Helper::IsScalar(value))
+            return value.CastTo<T>();
+        return static_cast<T>(System::Helper::ScalarValue(value));
+    }
 };
 
 template <class Derived, class T, class... Interfaces>
