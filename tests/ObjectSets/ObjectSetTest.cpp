@@ -27,6 +27,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <limits>
 #include <map>
 #include <thread>
 
@@ -146,57 +147,79 @@ TEST(ObjectSetModel, TypedReadsOfUnsetCellsAreEmptyAndWrongKindsRaise)
     });
 }
 
-// Cells are found by hashing keys: a long run of writes and removals over
-// keys that share their low bits must leave exactly the cells a plain map
-// would hold, rows in their order.
+// A long run of writes and removals must leave exactly the cells a plain
+// map would hold, rows in their order: over keys that share their low bits
+// (hashing), keys that start in sequence (found by position until the
+// sequence breaks) and the extremes of the key's range.
 TEST(ObjectSetModel, CellsAndRowsMatchAPlainMapAfterManyChanges)
 {
     InChildProcess([] {
         StartBasic();
-        Ref<IObjectSet> set = ObjectSet::New();
-        Ref<IInt32Attribute> column(set->AddAttribute(L"Value", DataTypeOf<std::int32_t>()));
-        std::map<std::int64_t, std::int32_t> cells;
-        std::vector<std::int64_t> rows;
-        std::uint32_t state = 12345;
-        auto next = [&state] { return state = state * 1664525u + 1013904223u; };
-        for (int step = 0; step < 20000; ++step) {
-            const std::int64_t key = std::int64_t(next() % 300) * 4096 - 50000;
-            switch (next() % 4) {
-            case 0:
-                if (std::find(rows.begin(), rows.end(), key) == rows.end()) {
-                    set->AddObject(Key(key));
-                    rows.push_back(key);
-                }
-                break;
-            case 1:
-                if (set->RemoveObject(Key(key))) {
-                    rows.erase(std::find(rows.begin(), rows.end(), key));
+        std::vector<std::int64_t> spaced, sequence, extremes;
+        for (std::int64_t i = 0; i < 300; ++i)
+            spaced.push_back(i * 4096 - 50000);
+        // Keys 1, 2, 3, ... are stored by position until one comes out of
+        // sequence; these runs start in sequence and then leave it.
+        for (std::int64_t i = 1; i <= 64; ++i)
+            sequence.push_back(i);
+        extremes = {std::numeric_limits<std::int64_t>::max() - 1,
+                    std::numeric_limits<std::int64_t>::max(),
+                    std::numeric_limits<std::int64_t>::min(),
+                    std::numeric_limits<std::int64_t>::min() + 1,
+                    0,
+                    1};
+        for (const std::vector<std::int64_t>* candidates : {&spaced, &sequence, &extremes}) {
+            Ref<IObjectSet> set = ObjectSet::New();
+            Ref<IInt32Attribute> column(set->AddAttribute(L"Value", DataTypeOf<std::int32_t>()));
+            std::map<std::int64_t, std::int32_t> cells;
+            std::vector<std::int64_t> rows;
+            for (std::size_t i = 0; i < candidates->size() / 2; ++i) {
+                set->AddObject(Key((*candidates)[i]));
+                rows.push_back((*candidates)[i]);
+                column->SetInt32Value(Key((*candidates)[i]), std::int32_t(i));
+                cells[(*candidates)[i]] = std::int32_t(i);
+            }
+            std::uint32_t state = 12345;
+            auto next = [&state] { return state = state * 1664525u + 1013904223u; };
+            for (int step = 0; step < 20000; ++step) {
+                const std::int64_t key = (*candidates)[next() % candidates->size()];
+                switch (next() % 4) {
+                case 0:
+                    if (std::find(rows.begin(), rows.end(), key) == rows.end()) {
+                        set->AddObject(Key(key));
+                        rows.push_back(key);
+                    }
+                    break;
+                case 1:
+                    if (set->RemoveObject(Key(key))) {
+                        rows.erase(std::find(rows.begin(), rows.end(), key));
+                        cells.erase(key);
+                    }
+                    break;
+                case 2:
+                    column->SetInt32Value(Key(key), step);
+                    cells[key] = step;
+                    break;
+                default:
+                    column->RemoveValue(Key(key));
                     cells.erase(key);
                 }
-                break;
-            case 2:
-                column->SetInt32Value(Key(key), step);
-                cells[key] = step;
-                break;
-            default:
-                column->RemoveValue(Key(key));
-                cells.erase(key);
             }
-        }
-        std::vector<std::int64_t> keys;
-        for (Key key : set->Objects()->Keys())
-            keys.push_back(key.Value());
-        EXPECT_EQ(keys, rows);
-        for (std::int64_t key = -50000; key < 300 * 4096; key += 4096) {
-            auto found = cells.find(key);
-            ASSERT_EQ(column->HasValue(Key(key)), found != cells.end()) << key;
-            if (found != cells.end()) {
-                EXPECT_EQ(column->Int32Value(Key(key)), found->second) << key;
+            std::vector<std::int64_t> keys;
+            for (Key key : set->Objects()->Keys())
+                keys.push_back(key.Value());
+            EXPECT_EQ(keys, rows);
+            for (std::int64_t key : *candidates) {
+                auto found = cells.find(key);
+                ASSERT_EQ(column->HasValue(Key(key)), found != cells.end()) << key;
+                if (found != cells.end()) {
+                    EXPECT_EQ(column->Int32Value(Key(key)), found->second) << key;
+                }
+                EXPECT_EQ(set->Objects()->IndexOf(Key(key)),
+                          std::find(rows.begin(), rows.end(), key) == rows.end()
+                              ? -1
+                              : std::find(rows.begin(), rows.end(), key) - rows.begin());
             }
-            EXPECT_EQ(set->Objects()->IndexOf(Key(key)),
-                      std::find(rows.begin(), rows.end(), key) == rows.end()
-                          ? -1
-                          : std::find(rows.begin(), rows.end(), key) - rows.begin());
         }
     });
 }

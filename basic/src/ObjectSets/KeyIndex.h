@@ -9,6 +9,11 @@
 //
 // Linear probing, at most half full; erasing shifts the following entries
 // back, so that there are no tombstones and lookups stay short.
+//
+// Until the first key out of sequence, no table exists at all: the keys a
+// labelling makes are 1, 2, 3, ... at positions 0, 1, 2, ..., so a key's
+// position is key - first key. Columns of a hundred thousand objects then
+// cost neither hashing nor the memory of a table.
 #pragma once
 
 #include "Quilon_/ObjectSets/Key.h"
@@ -22,6 +27,10 @@ class KeyIndex {
 public:
     std::int64_t Find(Quilon_::ObjectSets::Key key) const
     {
+        if (m_dense) {
+            const std::uint64_t offset = OffsetFromFirst(key);
+            return offset < m_count ? static_cast<std::int64_t>(offset) : -1;
+        }
         if (m_slots.empty())
             return -1;
         for (std::size_t slot = Home(key.Value());; slot = (slot + 1) & m_mask) {
@@ -36,6 +45,17 @@ public:
     // Sets the position of `key`, adding the key when absent.
     void Insert(Quilon_::ObjectSets::Key key, std::int64_t position)
     {
+        if (m_dense) {
+            if (m_count == 0 && position == 0)
+                m_first = key.Value();
+            if (OffsetFromFirst(key) == m_count && position == static_cast<std::int64_t>(m_count)) {
+                ++m_count;
+                return;
+            }
+            if (Find(key) == position)
+                return;
+            MakeTable();
+        }
         if (2 * (m_count + 1) > m_slots.size())
             Grow();
         std::size_t slot = Home(key.Value());
@@ -48,6 +68,11 @@ public:
 
     void Erase(Quilon_::ObjectSets::Key key)
     {
+        if (m_dense) {
+            if (Find(key) < 0)
+                return;
+            MakeTable();
+        }
         if (m_slots.empty())
             return;
         std::size_t hole = Home(key.Value());
@@ -76,6 +101,8 @@ public:
         m_slots.clear();
         m_mask = 0;
         m_count = 0;
+        m_dense = true;
+        m_first = 0;
     }
 
     std::size_t Count() const { return m_count; }
@@ -93,6 +120,34 @@ private:
         return static_cast<std::size_t>(hash ^ (hash >> 29)) & m_mask;
     }
 
+    // Unsigned, so that keys far apart wrap instead of overflowing.
+    std::uint64_t OffsetFromFirst(Quilon_::ObjectSets::Key key) const
+    {
+        return static_cast<std::uint64_t>(key.Value()) - static_cast<std::uint64_t>(m_first);
+    }
+
+    // The inverse of OffsetFromFirst: a sequence may run past the largest
+    // key into the smallest, as the unsigned offsets do.
+    std::int64_t KeyAtOffset(std::size_t offset) const
+    {
+        return static_cast<std::int64_t>(static_cast<std::uint64_t>(m_first) + offset);
+    }
+
+    // Leaves the sequence for a table holding the same keys.
+    void MakeTable()
+    {
+        const std::size_t count = m_count;
+        m_dense = false;
+        m_count = 0;
+        std::size_t size = 16;
+        while (size < 2 * (count + 1))
+            size *= 2;
+        m_slots.assign(size, Slot{});
+        m_mask = size - 1;
+        for (std::size_t position = 0; position < count; ++position)
+            Insert(Quilon_::ObjectSets::Key(KeyAtOffset(position)), static_cast<std::int64_t>(position));
+    }
+
     void Grow()
     {
         std::vector<Slot> old;
@@ -108,6 +163,9 @@ private:
     std::vector<Slot> m_slots;
     std::size_t m_mask = 0;
     std::size_t m_count = 0;
+    // While true, the keys are m_first, m_first + 1, ... at positions 0, 1, ...
+    bool m_dense = true;
+    std::int64_t m_first = 0;
 };
 
 } // namespace Quilon_::Basic::ObjectSets
