@@ -108,7 +108,7 @@ demo: deps build
 
 # The peer libraries that benchmarks compare against, installed for make bench
 # only: the library and its tests never need them.
-BENCH_PACKAGES := libopencv-dev
+BENCH_PACKAGES := libopencv-dev libinsighttoolkit5-dev
 
 bench-deps:
 	QUILON_EXTRA_PACKAGES="$(BENCH_PACKAGES)" scripts/install-deps.sh

@@ -23,6 +23,7 @@ packages=(
     libtiff-dev
     libjpeg62-turbo-dev
     libcli11-dev
+    libhwy-dev
 )
 # Packages that one make target adds (make bench: the peer libraries it
 # compares against).

@@ -261,11 +261,14 @@ TEST(Labelling, ComponentsOfRandomImagesMatchAFloodFill)
         double density;
         PredefinedNgbGraphEnum graph;
     };
+    // The last two have enough rows that the run buffer is sized from a
+    // sample of them.
     const std::vector<RandomCase> cases = {
         {{31, 23}, 0.45, Geometry::pngSquare4}, {{31, 23}, 0.45, Geometry::pngSquare8},
         {{17, 9}, 0.7, Geometry::pngSquare4},   {{17, 9}, 0.3, Geometry::pngSquare8},
         {{1, 13}, 0.5, Geometry::pngSquare8},   {{13, 1}, 0.5, Geometry::pngSquare4},
         {{9, 7, 5}, 0.3, Geometry::pngCubic6},  {{9, 7, 5}, 0.2, Geometry::pngCubic26},
+        {{23, 70}, 0.5, Geometry::pngSquare8},  {{7, 9, 8}, 0.4, Geometry::pngCubic26},
     };
     InChildProcess([&] {
         StartBasic();

@@ -19,6 +19,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 #include <string>
@@ -146,6 +147,103 @@ TEST(ObjectMeasurements, AVolumeIsMeasuredInVoxels)
                      {L"StandardShapeMeasurements.EquivalentDiameter", 1, std::cbrt(48 / std::numbers::pi)},
                      {L"StandardShapeMeasurements.Elongation", 1, 1},
                  });
+    });
+}
+
+// What the shape measurements must give, worked out pixel by pixel over a
+// label image: every object is the pixels of one value.
+struct BruteForceShape {
+    double area = 0, faces = 0, sx = 0, sy = 0, sz = 0, sxx = 0, syy = 0, sxy = 0;
+    std::int64_t low[3] = {1 << 30, 1 << 30, 1 << 30}, high[3] = {-1, -1, -1};
+};
+
+std::vector<BruteForceShape> MeasureByHand(const std::vector<double>& labels, const std::int64_t (&size)[3],
+                                           int objects)
+{
+    std::vector<BruteForceShape> shapes(std::size_t(objects + 1));
+    auto at = [&](std::int64_t x, std::int64_t y, std::int64_t z) {
+        const bool inside = x >= 0 && y >= 0 && z >= 0 && x < size[0] && y < size[1] && z < size[2];
+        return inside ? labels[std::size_t((z * size[1] + y) * size[0] + x)] : 0.0;
+    };
+    for (std::int64_t z = 0; z < size[2]; ++z)
+        for (std::int64_t y = 0; y < size[1]; ++y)
+            for (std::int64_t x = 0; x < size[0]; ++x) {
+                const double label = at(x, y, z);
+                if (label == 0)
+                    continue;
+                BruteForceShape& s = shapes[std::size_t(label)];
+                const std::int64_t p[3] = {x, y, z};
+                for (int axis = 0; axis < 3; ++axis) {
+                    s.low[axis] = std::min(s.low[axis], p[axis]);
+                    s.high[axis] = std::max(s.high[axis], p[axis]);
+                }
+                s.area += 1;
+                s.sx += double(x), s.sy += double(y), s.sz += double(z);
+                s.sxx += double(x * x), s.syy += double(y * y), s.sxy += double(x * y);
+                s.faces += (at(x - 1, y, z) != label) + (at(x + 1, y, z) != label) +
+                           (at(x, y - 1, z) != label) + (at(x, y + 1, z) != label);
+                if (size[2] > 1)
+                    s.faces += (at(x, y, z - 1) != label) + (at(x, y, z + 1) != label);
+            }
+    return shapes;
+}
+
+// Objects wider than a machine word, ragged, with holes and several runs
+// per row: each label value is scattered over the whole picture, so every
+// shape's mask spans it, and rows end at any offset within a word.
+TEST(ObjectMeasurements, ScatteredShapesMatchAPixelByPixelCount)
+{
+    InChildProcess([] {
+        StartBasic();
+        struct Case {
+            std::int64_t size[3];
+            int objects;
+        };
+        for (const Case& c : {Case{{37, 11, 1}, 5}, Case{{9, 6, 5}, 3}, Case{{64, 3, 1}, 2}}) {
+            std::vector<double> labels;
+            unsigned state = 12345;
+            for (std::int64_t i = 0; i < c.size[0] * c.size[1] * c.size[2]; ++i) {
+                state = state * 1103515245u + 12345u;
+                labels.push_back(double((state >> 16) % unsigned(c.objects + 1)));
+            }
+            const bool volume = c.size[2] > 1;
+            const ImageRef image =
+                volume ? SampleImage(System::ntUInt8, {c.size[0], c.size[1], c.size[2]}, Axes::aXYZ, labels)
+                       : SampleImage(System::ntUInt8, {c.size[0], c.size[1]}, Axes::aXY, labels);
+            SetRef set = ObjectSet::New();
+            Gen::Labels(image, set);
+            M::Functions::StandardShapeMeasurements(set, std::vector<M::StandardShapeMeasurementEnum>{});
+            const std::vector<BruteForceShape> expected = MeasureByHand(labels, c.size, c.objects);
+            for (int k = 1; k <= c.objects; ++k) {
+                const BruteForceShape& e = expected[std::size_t(k)];
+                const double n = e.area;
+                std::vector<Expected> cells = {
+                    {L"StandardShapeMeasurements.Area", k, n},
+                    {L"StandardShapeMeasurements.Perimeter", k, e.faces},
+                    {L"StandardShapeMeasurements.CentroidX", k, e.sx / n},
+                    {L"StandardShapeMeasurements.CentroidY", k, e.sy / n},
+                    {L"StandardShapeMeasurements.BoundingBoxLeft", k, double(e.low[0])},
+                    {L"StandardShapeMeasurements.BoundingBoxTop", k, double(e.low[1])},
+                    {L"StandardShapeMeasurements.BoundingBoxWidth", k, double(e.high[0] - e.low[0] + 1)},
+                    {L"StandardShapeMeasurements.BoundingBoxHeight", k, double(e.high[1] - e.low[1] + 1)},
+                };
+                if (volume) {
+                    cells.push_back({L"StandardShapeMeasurements.CentroidZ", k, e.sz / n});
+                    cells.push_back({L"StandardShapeMeasurements.BoundingBoxFront", k, double(e.low[2])});
+                    cells.push_back(
+                        {L"StandardShapeMeasurements.BoundingBoxDepth", k, double(e.high[2] - e.low[2] + 1)});
+                } else {
+                    const double mx = e.sx / n, my = e.sy / n;
+                    const double cxx = e.sxx / n - mx * mx + 1.0 / 12, cyy = e.syy / n - my * my + 1.0 / 12;
+                    const double cxy = e.sxy / n - mx * my, mean = (cxx + cyy) / 2;
+                    const double spread = std::sqrt((cxx - cyy) * (cxx - cyy) / 4 + cxy * cxy);
+                    cells.push_back({L"StandardShapeMeasurements.Elongation", k,
+                                     std::sqrt((mean + spread) / (mean - spread))});
+                }
+                SCOPED_TRACE(::testing::Message() << c.size[0] << " x " << c.size[1] << " x " << c.size[2]);
+                ExpectCells(set, cells);
+            }
+        }
     });
 }
 

@@ -116,8 +116,9 @@ TEST_F(PointerTest, RepeatedCastsLandOnEachClassOwnPart)
             Pointer<IThing, 1> thing(object);
             EXPECT_EQ(other.Get(), dynamic_cast<IOther*>(object.Get()));
             EXPECT_EQ(thing.Get(), dynamic_cast<IThing*>(object.Get()));
-            if (other)
+            if (other) {
                 EXPECT_EQ(other->Other(), thing->Value() == 1 ? 2 : 5);
+            }
         }
     }
 }

@@ -31,7 +31,10 @@ std::vector<Overload> Overloads()
         std::size_t end = i + 1;
         while (end < entries.size() && entries[end].name == entries[i].name)
             ++end;
-        if (!entries[i].name.empty()) {
+        // Exported operators go by their full name; functions held as values
+        // (the attribute factories of the object-set table, named by their
+        // kind only) are not operators to list or to run.
+        if (entries[i].name.find(L"::") != std::wstring::npos) {
             for (std::size_t k = i; k < end; ++k)
                 overloads.push_back({entries[k].name, k - i, end - i, entries[k].function});
         }

@@ -19,7 +19,9 @@
 #include "Quilon_/System/Helper.h"
 #include "Quilon_/System/ObjectImpl.h"
 
+#include <type_traits>
 #include <utility>
+#include <vector>
 
 namespace Quilon_::Basic::ObjectSets {
 
@@ -33,6 +35,21 @@ public:
 
 protected:
     ~AttributeNameHolder() = default;
+};
+
+// What the measuring operators write a whole column of numbers through: one
+// call per column instead of one per cell. Each value is converted to the
+// column's type as the typed setter converts it (an int column truncates,
+// so callers round first).
+class NumberColumnHolder {
+public:
+    // The cell of keys[k] becomes values[k], for every k not marked in
+    // `unset` (an empty `unset` marks none).
+    virtual void StoreNumbers(const std::vector<QOS::Key>& keys, const std::vector<double>& values,
+                              const std::vector<bool>& unset) = 0;
+
+protected:
+    ~NumberColumnHolder() = default;
 };
 
 // Cell conversions of a value type T: From(Any) raises the Any cast error
@@ -58,7 +75,9 @@ struct CellTraits<T> {
 };
 
 template <class Derived, class T, class... Interfaces>
-class CAttribute : public System::Template::ObjectImpl<Derived, Interfaces...>, public AttributeNameHolder {
+class CAttribute : public System::Template::ObjectImpl<Derived, Interfaces...>,
+                   public AttributeNameHolder,
+                   public NumberColumnHolder {
 public:
     CAttribute(const System::LIString& name, const System::Type& dataType)
         : m_name(name), m_dataType(dataType)
@@ -116,6 +135,23 @@ public:
     }
 
     const CellStore<T>& Cells() const { return m_cells; }
+
+    void StoreNumbers(const std::vector<QOS::Key>& keys, const std::vector<double>& values,
+                      const std::vector<bool>& unset) override
+    {
+        if constexpr (std::is_arithmetic_v<T>) {
+            // No kind of number checks its values (only images and shapes
+            // override Store), so the cells are written directly.
+            m_cells.Reserve(m_cells.Count() + keys.size());
+            for (std::size_t k = 0; k < keys.size(); ++k)
+                if (unset.empty() || !unset[k])
+                    m_cells.Set(keys[k], static_cast<T>(values[k]));
+        } else {
+            for (std::size_t k = 0; k < keys.size(); ++k)
+                if (unset.empty() || !unset[k])
+                    SetValue(keys[k], System::ToAny(values[k]));
+        }
+    }
 
 protected:
     // Every write of a cell passes here: a kind that checks its values

@@ -65,6 +65,14 @@ public:
         m_values.clear();
     }
 
+    // Room for `count` cells in all, so that adding a column's cells one
+    // after the other never copies.
+    void Reserve(std::size_t count)
+    {
+        m_keys.reserve(count);
+        m_values.reserve(count);
+    }
+
     std::size_t Count() const { return m_values.size(); }
     const std::vector<Key>& Keys() const { return m_keys; }
     const std::vector<T>& Values() const { return m_values; }

@@ -22,6 +22,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cmath>
 #include <cstdio>
 #include <filesystem>
@@ -408,6 +409,102 @@ TEST(ImageFiles, FormatOptionsChangeTheFileNotTheSamples)
                   L"The PNG compression level must be from 0 to 9, not 10");
         EXPECT_EQ(RaisedMessage([] { OwnWriter<QI::IO::ITIFFWriter>(1)->SetTileWidth(24); }),
                   L"A TIFF tile side must be 0 or a multiple of 16, not 24");
+        fs::remove_all(folder);
+    });
+}
+
+// The rectangle (x, y, width, height) of each of `planes` planes of samples
+// w x h (X fastest), from plane `first` on.
+std::vector<double> Crop(const std::vector<double>& samples, std::int64_t w, std::int64_t h,
+                         std::int64_t first, std::int64_t planes,
+                         const std::array<std::int64_t, 4>& rectangle)
+{
+    const auto [x0, y0, cw, ch] = rectangle;
+    std::vector<double> part;
+    for (std::int64_t p = first; p < first + planes; ++p)
+        for (std::int64_t y = y0; y < y0 + ch; ++y)
+            for (std::int64_t x = x0; x < x0 + cw; ++x)
+                part.push_back(samples[std::size_t(x + w * (y + h * p))]);
+    return part;
+}
+
+TEST(ImageFiles, TilesAndRegionsReadAsPartsOfTheWholePage)
+{
+    InChildProcess([] {
+        StartBasic();
+        const fs::path folder = Folder();
+        const std::wstring file = ToString((folder / "tiled.tif").string());
+        auto pair = [](std::int64_t x, std::int64_t y) {
+            return Geometry::Coordinates::New(x, y, Geometry::Axes::aXY);
+        };
+        auto values = [](const Ref<Geometry::ICoordinates>& c) { return std::pair(c->X(), c->Y()); };
+
+        // Colour floats in tiles that do not divide the image; a 16-bit stack
+        // in strips of 5 rows, read at its second page.
+        ImageRef colour = NewImage({37, 21, 1, 3, ntFloat});
+        Fill(colour, [](std::int64_t i) { return Pattern(ntFloat, i); });
+        ImageRef stack = NewImage({37, 21, 2, 1, ntUInt16});
+        Fill(stack, [](std::int64_t i) { return Pattern(ntUInt16, i); });
+        struct Case {
+            const char* label;
+            ImageRef image;
+            std::int64_t rowsPerStrip, tile;
+            bool tiled;
+            std::pair<std::int64_t, std::int64_t> tileSize, tileCount;
+            std::int64_t page, planes;
+        };
+        const std::vector<Case> cases = {
+            {"tiles", colour, 0, 16, true, {16, 16}, {3, 2}, 0, 3},
+            {"strips", stack, 5, 0, false, {37, 5}, {1, 5}, 1, 1},
+        };
+        for (const Case& c : cases) {
+            SCOPED_TRACE(c.label);
+            Ref<QI::IO::ITIFFWriter> writer = OwnWriter<QI::IO::ITIFFWriter>(1);
+            writer->SetRowsPerStrip(c.rowsPerStrip);
+            writer->SetTileWidth(c.tile);
+            writer->SetTileHeight(c.tile);
+            writer->Write(c.image, file);
+
+            Ref<QI::IO::ITiledBitmapReader> tiled(
+                Ref<ICloneable>(QI::IO::Globals::BitmapReaders()->Item(1))->Clone());
+            tiled->Open(file);
+            Ref<QI::IO::IMultiPageBitmapReader>(tiled)->SetCurrentPage(c.page);
+            EXPECT_EQ(tiled->IsTiled(), c.tiled);
+            EXPECT_EQ(values(tiled->TileSize()), c.tileSize);
+            EXPECT_EQ(values(tiled->TileCount()), c.tileCount);
+            EXPECT_EQ(values(tiled->TileOf(pair(36, 20))),
+                      std::pair(c.tileCount.first - 1, c.tileCount.second - 1));
+
+            const std::vector<double> whole = Samples(c.image);
+            const std::int64_t first = c.planes == 1 ? c.page : 0;
+            for (const std::array<std::int64_t, 4>& r : std::vector<std::array<std::int64_t, 4>>{
+                     {0, 0, 37, 21}, {15, 4, 3, 13}, {36, 20, 1, 1}, {16, 16, 21, 5}}) {
+                ImageRef part = QI::Image::New();
+                tiled->ReadRegion(pair(r[0], r[1]), pair(r[2], r[3]), part);
+                EXPECT_EQ(Samples(part), Crop(whole, 37, 21, first, c.planes, r)) << r[0] << "," << r[1];
+            }
+            // The last tile is cut by the image's edges.
+            const auto [w, h] = c.tileSize;
+            const auto [columns, rows] = c.tileCount;
+            const std::array<std::int64_t, 4> last{(columns - 1) * w, (rows - 1) * h, 37 - (columns - 1) * w,
+                                                   21 - (rows - 1) * h};
+            ImageRef tile = QI::Image::New();
+            tiled->ReadTile(columns - 1, rows - 1, tile);
+            ExpectShape(tile, {last[2], last[3], 1, c.planes, c.image->Format()->DataType()}, c.label);
+            EXPECT_EQ(Samples(tile), Crop(whole, 37, 21, first, c.planes, last));
+        }
+
+        Ref<QI::IO::ITiledBitmapReader> tiled(
+            Ref<ICloneable>(QI::IO::Globals::BitmapReaders()->Item(1))->Clone());
+        EXPECT_EQ(RaisedMessage([&] { tiled->TileCount(); }), L"No TIFF file is open");
+        tiled->Open(file);
+        EXPECT_EQ(RaisedMessage([&] { tiled->ReadTile(0, 5, QI::Image::New()); }),
+                  L"Tile (0, 5) is outside the 1 x 5 tiles of the file '" + file + L"'");
+        EXPECT_EQ(RaisedMessage([&] { tiled->ReadRegion(pair(30, 0), pair(8, 1), QI::Image::New()); }),
+                  L"The region of 8 x 1 at (30, 0) is not inside the 37 x 21 image of the file '" + file +
+                      L"'");
+        EXPECT_EQ(RaisedMessage([&] { tiled->TileOf(pair(37, 0)); }),
+                  L"The location (37, 0) is outside the 37 x 21 image of the file '" + file + L"'");
         fs::remove_all(folder);
     });
 }

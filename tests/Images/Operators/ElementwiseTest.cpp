@@ -18,6 +18,7 @@
 #include "../../Support/BasicLibrary.h"
 #include "../../Support/InChildProcess.h"
 #include "../../Support/Raised.h"
+#include "../../Support/SimdTargets.h"
 #include "SampleImages.h"
 
 #include <gmock/gmock.h>
@@ -26,6 +27,7 @@
 #include <cmath>
 #include <functional>
 #include <limits>
+#include <random>
 #include <string>
 
 namespace Quilon_::Tests::Elementwise {
@@ -538,6 +540,109 @@ TEST(ElementwiseOperators, SetCategoryConvertsThePixelsForEachCategory)
             Image::SetCategory(image, picBinary, true);
             EXPECT_EQ(typeOf(image), System::ntUInt8);
             EXPECT_EQ(set(image), expected);
+        }
+    });
+}
+
+// ---- Dense images: the vectorised, banded path ---------------------------------
+
+// DispatchSampleType over the real sample types, which are all these tests use.
+template <class Function>
+decltype(auto) WithRealType(System::NumericTypeEnum type, Function&& function)
+{
+    return Basic::Images::DispatchSampleType(type, [&](auto tag) -> decltype(auto) {
+        if constexpr (std::is_arithmetic_v<typename decltype(tag)::type>)
+            return function(tag);
+        else
+            return function(std::type_identity<double>{});
+    });
+}
+
+// Samples spread over the whole range of `type`, so that sums saturate often;
+// floating ones include NaN, infinities and values that round.
+std::vector<double> RandomSamples(NumericTypeEnum type, std::size_t count, unsigned seed)
+{
+    std::mt19937 random(seed);
+    std::vector<double> values(count);
+    WithRealType(type, [&](auto tag) {
+        using T = typename decltype(tag)::type;
+        for (double& value : values) {
+            if constexpr (std::is_integral_v<T>) {
+                value = double(std::uniform_int_distribution<std::int64_t>(
+                    std::numeric_limits<T>::lowest(), std::numeric_limits<T>::max())(random));
+            } else {
+                const double specials[] = {nan, inf, -inf, 0.1, -0.0};
+                const unsigned pick = random() % 64;
+                value =
+                    pick < 5 ? specials[pick] : double(T(std::normal_distribution<double>(0, 1e3)(random)));
+            }
+        }
+    });
+    return values;
+}
+
+// `value` as the plain path stores it into `type`: clamped for integers,
+// rounded once for float.
+double StoredAs(NumericTypeEnum type, double value)
+{
+    return WithRealType(type, [&](auto tag) {
+        using T = typename decltype(tag)::type;
+        if constexpr (std::is_integral_v<T>)
+            return std::clamp(value, double(std::numeric_limits<T>::lowest()),
+                              double(std::numeric_limits<T>::max()));
+        else
+            return double(T(value));
+    });
+}
+
+// Bit for bit, NaN equal to NaN; reports the first difference only.
+void ExpectSameSamples(const std::vector<double>& actual, const std::vector<double>& expected,
+                       const std::string& what)
+{
+    ASSERT_EQ(actual.size(), expected.size()) << what;
+    for (std::size_t i = 0; i < actual.size(); ++i)
+        if (!(actual[i] == expected[i] || (std::isnan(actual[i]) && std::isnan(expected[i])))) {
+            ADD_FAILURE() << what << ": sample " << i << " is " << actual[i] << ", not " << expected[i];
+            return;
+        }
+}
+
+TEST(ElementwiseOperators, DenseSumsAndDifferencesSaturateUnderEveryInstructionSet)
+{
+    InChildProcess([] {
+        StartBasic();
+        // Banded with odd tails; a volume; one sample; int32 takes the plain
+        // path, as a control of the reference below.
+        const std::vector<std::pair<std::vector<std::int64_t>, Axes>> shapes{
+            {{613, 211}, Axes::aXY}, {{37, 5, 3}, Axes::aXYZ}, {{1, 1}, Axes::aXY}};
+        for (NumericTypeEnum type : {System::ntUInt8, System::ntInt8, System::ntUInt16, System::ntInt16,
+                                     System::ntFloat, System::ntDouble, System::ntInt32}) {
+            for (const auto& [extent, axes] : shapes) {
+                std::size_t count = 1;
+                for (std::int64_t size : extent)
+                    count *= std::size_t(size);
+                const std::vector<double> x = RandomSamples(type, count, 1),
+                                          y = RandomSamples(type, count, 2);
+                std::vector<double> sum(count), difference(count);
+                for (std::size_t i = 0; i < count; ++i) {
+                    sum[i] = StoredAs(type, x[i] + y[i]);
+                    difference[i] = StoredAs(type, x[i] - y[i]);
+                }
+                ImageRef a = SampleImage(type, extent, axes, x), b = SampleImage(type, extent, axes, y);
+                const std::string what =
+                    System::ToAnsi(System::ToString(type)) + " of " + std::to_string(count);
+                Testing::ForEachSimdTarget([&](const std::string& target) {
+                    ImageRef out = Image::New();
+                    A::Add(a, b, out);
+                    ExpectSameSamples(SamplesOf(out), sum, what + " + under " + target);
+                    A::Subtract(a, b, out);
+                    ExpectSameSamples(SamplesOf(out), difference, what + " - under " + target);
+                    // In place, over the first operand.
+                    ImageRef copy = SampleImage(type, extent, axes, x);
+                    A::Add(copy, b, copy);
+                    ExpectSameSamples(SamplesOf(copy), sum, what + " += under " + target);
+                });
+            }
         }
     });
 }

@@ -13,6 +13,7 @@
 #include "../../Support/BasicLibrary.h"
 #include "../../Support/InChildProcess.h"
 #include "../../Support/Raised.h"
+#include "../../Support/SimdTargets.h"
 #include "SampleImages.h"
 
 #include <gmock/gmock.h>
@@ -23,6 +24,7 @@
 #include <cmath>
 #include <functional>
 #include <limits>
+#include <random>
 
 namespace Quilon_::Tests::FilteringSuite {
 
@@ -30,6 +32,7 @@ using namespace Quilon_::Images;
 namespace F = Quilon_::Images::Filtering::Functions;
 namespace E = Quilon_::Images::EdgeDetection::Functions;
 using Geometry::Axes;
+using Testing::ForEachSimdTarget;
 using ::testing::HasSubstr;
 
 // ---- The brute-force reference ----------------------------------------------
@@ -434,6 +437,146 @@ TEST(EdgeDetectionBasic, GradientsGiveOneBandPerAxisMatchingTheBruteForceKernels
         EXPECT_THAT(RaisedMessage([&] { E::SobelEdges(bands, out, 1.0); }),
                     HasSubstr(L"Single band image expected"));
         EXPECT_EQ(System::ToString(Quilon_::Images::EdgeDetection::etValley), L"etValley");
+    });
+}
+
+// ---- Fast paths against the plain filters ---------------------------------------
+
+// 8-bit and float images take the vectorised filters; the same filter into
+// a double output takes the plain one, which gives the exact value.
+struct FastCase {
+    const char* name;
+    std::vector<std::int64_t> extent;
+    Axes axes;
+};
+
+const FastCase fastShapes[] = {
+    {"1 x 1", {1, 1}, Axes::aXY},
+    {"1 x 9", {1, 9}, Axes::aXY},
+    {"9 x 1", {9, 1}, Axes::aXY},
+    {"7 x 13", {7, 13}, Axes::aXY},
+    {"67 x 35", {67, 35}, Axes::aXY},
+    {"130 x 5", {130, 5}, Axes::aXY},
+    {"19 x 11 x 3 bands", {19, 11, 3}, static_cast<Axes>(Geometry::aX | Geometry::aY | Geometry::aB)},
+    {"one row of 40", {40}, static_cast<Axes>(Geometry::aX)},
+};
+
+std::vector<double> RandomSamples(std::size_t count, double low, double high, unsigned seed)
+{
+    std::mt19937 random(seed);
+    std::uniform_int_distribution<int> pick(static_cast<int>(low), static_cast<int>(high));
+    std::vector<double> values(count);
+    for (double& v : values)
+        v = pick(random);
+    return values;
+}
+
+std::size_t CountOf(const std::vector<std::int64_t>& extent)
+{
+    std::size_t count = 1;
+    for (std::int64_t n : extent)
+        count *= static_cast<std::size_t>(n);
+    return count;
+}
+
+TEST(FilteringBasic, FastSmoothingMatchesThePlainFilterUnderEveryInstructionSet)
+{
+    InChildProcess([] {
+        StartBasic();
+        const Padding constant(ptConstant, System::ToAny(std::int64_t(90)));
+        const Padding halfConstant(ptConstant, System::ToAny(0.5)); // no 8-bit sample: plain filter
+        const Padding mirror(ptMirror, System::Any());
+        const std::pair<const char*, std::function<void(ImageRef, ImageRef)>> filters[] = {
+            {"Gaussian 2", [](ImageRef a, ImageRef b) { F::Gaussian(a, b, 2.0); }},
+            {"Gaussian 0.8, side 5", [](ImageRef a, ImageRef b) { F::Gaussian(a, b, 0.8, std::int64_t(5)); }},
+            {"Gaussian 1.5 mirrored", [&](ImageRef a, ImageRef b) { F::Gaussian(a, b, 1.5, mirror); }},
+            {"Gaussian 1 constant", [&](ImageRef a, ImageRef b) { F::Gaussian(a, b, 1.0, constant); }},
+            {"Gaussian 1 constant 0.5",
+             [&](ImageRef a, ImageRef b) { F::Gaussian(a, b, 1.0, halfConstant); }},
+            {"Box 5", [](ImageRef a, ImageRef b) { F::Box(a, b, 5); }},
+        };
+        unsigned seed = 1;
+        for (const FastCase& shape : fastShapes)
+            for (const auto& [name, filter] : filters)
+                for (System::NumericTypeEnum type : {System::ntUInt8, System::ntFloat}) {
+                    SCOPED_TRACE(std::string(name) + ", " + shape.name + ", " +
+                                 System::ToAnsi(System::ToString(type)));
+                    // Floats beyond the 8-bit range and of both signs.
+                    const std::vector<double> values =
+                        type == System::ntUInt8 ? RandomSamples(CountOf(shape.extent), 0, 255, seed++)
+                                                : RandomSamples(CountOf(shape.extent), -3000, 3000, seed++);
+                    const ImageRef input = SampleImage(type, shape.extent, shape.axes, values);
+                    ImageRef exact = SampleImage(System::ntDouble, shape.extent, shape.axes, {});
+                    filter(input, exact);
+                    const std::vector<double> plain = SamplesOf(exact);
+                    double largest = 0;
+                    for (double v : values)
+                        largest = std::max(largest, std::abs(v));
+                    ForEachSimdTarget([&](const std::string& target) {
+                        SCOPED_TRACE(target);
+                        ImageRef output = SampleImage(type, shape.extent, shape.axes, {});
+                        filter(input, output);
+                        const std::vector<double> fast = SamplesOf(output);
+                        ASSERT_EQ(fast.size(), plain.size());
+                        for (std::size_t i = 0; i < fast.size(); ++i) {
+                            if (type == System::ntFloat) {
+                                // Single against double precision: a few
+                                // roundings of the largest sample.
+                                EXPECT_NEAR(fast[i], plain[i], 1e-6 * (1 + largest)) << "sample " << i;
+                            } else if (fast[i] != std::nearbyint(plain[i])) {
+                                // Single precision may round the other way,
+                                // right next to a rounding boundary only.
+                                EXPECT_NEAR(std::abs(fast[i] - plain[i]), 0.5, 1e-4) << "sample " << i;
+                            }
+                        }
+                    });
+                }
+    });
+}
+
+TEST(FilteringBasic, FastMediansMatchThePlainFilterUnderEveryInstructionSet)
+{
+    InChildProcess([] {
+        StartBasic();
+        const Padding constant(ptConstant, System::ToAny(std::int64_t(200)));
+        const Padding mirror(ptMirror, System::Any());
+        const auto square = [](double radius) {
+            return Geometry::StructuringElement::New(Geometry::pseSquare, radius);
+        };
+        const std::pair<const char*, std::function<void(ImageRef, ImageRef)>> filters[] = {
+            {"3", [](ImageRef a, ImageRef b) { F::Median(a, b, 3); }},
+            {"5", [](ImageRef a, ImageRef b) { F::Median(a, b, 5); }},
+            {"square 1 constant", [&](ImageRef a, ImageRef b) { F::Median(a, b, square(1), constant); }},
+            {"square 2 mirrored", [&](ImageRef a, ImageRef b) { F::Median(a, b, square(2), mirror); }},
+            {"square 2 constant", [&](ImageRef a, ImageRef b) { F::Median(a, b, square(2), constant); }},
+        };
+        std::vector<FastCase> shapes(std::begin(fastShapes), std::end(fastShapes));
+        // A square element filters a volume plane by plane.
+        shapes.push_back({"9 x 8 x 3 volume", {9, 8, 3}, Axes::aXYZ});
+        unsigned seed = 100;
+        for (const FastCase& shape : shapes)
+            for (const auto& [name, filter] : filters)
+                for (const double top : {3.0, 255.0}) { // many ties, and few
+                    SCOPED_TRACE(std::string("Median ") + name + ", " + shape.name + ", up to " +
+                                 std::to_string(top));
+                    if (shape.axes == Axes::aXYZ && name == std::string("3"))
+                        continue; // a cube, for the plain filter
+                    const ImageRef input = SampleImage(System::ntUInt8, shape.extent, shape.axes,
+                                                       RandomSamples(CountOf(shape.extent), 0, top, seed++));
+                    ImageRef wide = SampleImage(System::ntUInt16, shape.extent, shape.axes, {});
+                    filter(input, wide);
+                    const std::vector<double> plain = SamplesOf(wide);
+                    ForEachSimdTarget([&](const std::string& target) {
+                        SCOPED_TRACE(target);
+                        ImageRef output = SampleImage(System::ntUInt8, shape.extent, shape.axes, {});
+                        filter(input, output);
+                        EXPECT_EQ(SamplesOf(output), plain);
+                    });
+                    // In place, the output being the input.
+                    ImageRef both = SampleImage(System::ntUInt8, shape.extent, shape.axes, SamplesOf(input));
+                    filter(both, both);
+                    EXPECT_EQ(SamplesOf(both), plain);
+                }
     });
 }
 

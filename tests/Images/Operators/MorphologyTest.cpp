@@ -15,6 +15,7 @@
 #include "../../Support/BasicLibrary.h"
 #include "../../Support/InChildProcess.h"
 #include "../../Support/Raised.h"
+#include "../../Support/SimdTargets.h"
 #include "SampleImages.h"
 
 #include <gtest/gtest.h>
@@ -23,6 +24,7 @@
 #include <cmath>
 #include <functional>
 #include <limits>
+#include <random>
 
 namespace Quilon_::Tests::MorphologySuite {
 
@@ -68,7 +70,7 @@ std::vector<Offset3> OffsetsOf(ICoordinatesCollection& points)
     for (std::int64_t i = 0; i < points.Count(); ++i) {
         Ref<ICoordinates> p = points.Item(i);
         const auto has = [&](AxisEnum axis) { return (static_cast<unsigned char>(p->Axes()) & axis) != 0; };
-        offsets.push_back({p->X(), p->Y(), has(aZ) ? p->Z() : 0});
+        offsets.push_back({has(aX) ? p->X() : 0, has(aY) ? p->Y() : 0, has(aZ) ? p->Z() : 0});
     }
     return offsets;
 }
@@ -206,6 +208,191 @@ TEST(Morphology, ErosionAndItsCompositionsMatchTheDefinitionForEveryTypeAndEleme
                 BasicFunctions::Erode(inPlace, inPlace, element);
                 ExpectSamples(inPlace, eroded, what + ", in place");
             }
+    });
+}
+
+// Samples over the whole range of a type (of the doubles' exact integers
+// for the 64-bit ones), with NaN and infinities among floating samples.
+std::vector<double> WideValues(System::NumericTypeEnum type, std::size_t count, std::uint64_t seed)
+{
+    std::mt19937_64 random(seed);
+    double low = 0, high = 0;
+    ::Quilon_::Basic::Images::DispatchSampleType(type, [&](auto tag) {
+        using T = typename decltype(tag)::type;
+        if constexpr (std::is_integral_v<T>) {
+            low = std::max<double>(double(std::numeric_limits<T>::lowest()), -0x1p52);
+            high = std::min<double>(double(std::numeric_limits<T>::max()), 0x1p52);
+        } else {
+            low = -1e6;
+            high = 1e6;
+        }
+    });
+    const bool floating = type == System::ntFloat || type == System::ntDouble;
+    std::vector<double> values(count);
+    for (double& value : values) {
+        value = std::floor(std::uniform_real_distribution<double>(low, high + 1)(random));
+        const std::uint64_t pick = random() % 29;
+        if (floating)
+            value = pick == 0 ? std::nan("") : pick == 1 ? infinity : pick == 2 ? -infinity : value / 4;
+    }
+    return values;
+}
+
+// An expected value as the image stores it: saturated into an integer
+// type, rounded to float.
+double Stored(System::NumericTypeEnum type, double value)
+{
+    double result = value;
+    ::Quilon_::Basic::Images::DispatchSampleType(type, [&](auto tag) {
+        using T = typename decltype(tag)::type;
+        if constexpr (std::is_integral_v<T>)
+            result = std::clamp(value, double(std::numeric_limits<T>::lowest()),
+                                double(std::numeric_limits<T>::max()));
+        else if constexpr (std::is_same_v<T, float>)
+            result = double(float(value));
+    });
+    return result;
+}
+
+void ExpectStored(const ImageRef& image, System::NumericTypeEnum type, const Plain& expected,
+                  const std::string& what)
+{
+    const std::vector<double> actual = SamplesOf(image);
+    ASSERT_EQ(actual.size(), expected.values.size()) << what;
+    for (std::size_t i = 0; i < actual.size(); ++i) {
+        const double wanted = Stored(type, expected.values[i]);
+        if (!(std::isnan(actual[i]) && std::isnan(wanted))) {
+            ASSERT_EQ(actual[i], wanted) << what << ", sample " << i;
+        }
+    }
+}
+
+// The row-by-row paths (direct offsets, span groups folded by shifts or
+// by doubling, 3-D rows, scratch volumes for in-place and multi-pass
+// operators) under every instruction set, on sizes that leave vector tails
+// and borders wider than the interior.
+TEST(Morphology, RowPathsMatchTheDefinitionUnderEveryInstructionSet)
+{
+    InChildProcess([] {
+        StartBasic();
+        const auto fromPoints = [](std::initializer_list<std::pair<int, int>> xy) {
+            Ref<ICoordinatesCollection> points = CoordinatesCollection::New();
+            for (auto [x, y] : xy)
+                points->Add(Coordinates::New(x, y, Axes::aXY));
+            return StructuringElement::New(points);
+        };
+        const Shape wide{{131, 6}, Axes::aXY, 131, 6, 1, 1};
+        const Shape odd{{67, 35}, Axes::aXY, 67, 35, 1, 1};
+        const Shape small{{7, 13}, Axes::aXY, 7, 13, 1, 1};
+        const Shape row{{9, 1}, Axes::aXY, 9, 1, 1, 1};
+        const Shape column{{1, 9}, Axes::aXY, 1, 9, 1, 1};
+        const Shape single{{1, 1}, Axes::aXY, 1, 1, 1, 1};
+        const Shape solid{{19, 7, 5}, Axes::aXYZ, 19, 7, 5, 1};
+        const std::vector<const Shape*> flat = {&wide, &odd, &small, &row, &column, &single};
+        const std::vector<const Shape*> deep = {&solid};
+        const std::tuple<const char*, std::vector<const Shape*>, std::function<Ref<IStructuringElement>()>>
+            cases[] = {
+                {"square 1", flat, [] { return StructuringElement::New(pseSquare, 1.0); }},
+                {"square 2", flat, [] { return StructuringElement::New(pseSquare, 2.0); }},
+                {"disk 2", flat, [] { return StructuringElement::New(pseDisk, 2.0); }},
+                {"disk 5", flat, [] { return StructuringElement::New(pseDisk, 5.0); }},
+                {"horizontal 7", flat, [] { return StructuringElement::New(pseHorizontalLine, 7.0); }},
+                {"horizontal 31", flat, [] { return StructuringElement::New(pseHorizontalLine, 31.0); }},
+                {"vertical 3", flat, [] { return StructuringElement::New(pseVerticalLine, 3.0); }},
+                {"line 135", flat, [] { return StructuringElement::New(pseLine135, 4.0); }},
+                {"rectangle 9 x 3", flat,
+                 [&] {
+                     return fromPoints({{-4, -1}, {-3, -1}, {-2, -1}, {-1, -1}, {0, -1}, {1, -1}, {2, -1},
+                                        {3, -1},  {4, -1},  {-4, 0},  {-3, 0},  {-2, 0}, {-1, 0}, {0, 0},
+                                        {1, 0},   {2, 0},   {3, 0},   {4, 0},   {-4, 1}, {-3, 1}, {-2, 1},
+                                        {-1, 1},  {0, 1},   {1, 1},   {2, 1},   {3, 1},  {4, 1}});
+                 }},
+                {"off centre", flat,
+                 [&] {
+                     return fromPoints(
+                         {{2, 0}, {3, 0}, {4, 0}, {5, 0}, {6, 0}, {7, 0}, {8, 0}, {9, 0}, {-1, 2}});
+                 }},
+                {"cube 1", deep, [] { return StructuringElement::New(pseCube, 1.0); }},
+                {"ball 2", deep, [] { return StructuringElement::New(pseBall, 2.0); }},
+                {"cross on X and Z", deep, [] { return StructuringElement::New(pseDisk, 1.0, Axes::aXZ); }},
+            };
+        const System::NumericTypeEnum types[] = {
+            System::ntInt8,   System::ntUInt8, System::ntInt16,  System::ntUInt16, System::ntInt32,
+            System::ntUInt32, System::ntInt64, System::ntUInt64, System::ntFloat,  System::ntDouble};
+        std::uint64_t seed = 5;
+        for (const auto& [name, shapes, make] : cases)
+            for (const Shape* shape : shapes)
+                for (System::NumericTypeEnum type : types) {
+                    const Shape& s = *shape;
+                    const ImageRef input =
+                        ImageOf(type, s, WideValues(type, std::size_t(s.nx * s.ny * s.nz), ++seed));
+                    const Plain f{s.nx, s.ny, s.nz, 1, SamplesOf(input)};
+                    Ref<IStructuringElement> element = make();
+                    const std::vector<Offset3> offsets = OffsetsOf(*element->Points());
+                    // Intermediate results as the image stores them: an element
+                    // without its origin leaves samples on which nothing lands.
+                    const auto stored = [&](Plain p) {
+                        for (double& v : p.values)
+                            v = Stored(type, v);
+                        return p;
+                    };
+                    const Plain eroded = stored(Morph(f, offsets, false));
+                    const Plain dilated = stored(Morph(f, offsets, true));
+                    const Plain closed = Morph(dilated, offsets, false);
+                    const Plain whiteTophat = Combine(f, stored(Morph(eroded, offsets, true)),
+                                                      [](double a, double b) { return a - b; });
+                    const std::string what = std::string(name) + " on " +
+                                             System::ToAnsi(System::ToString(type)) + " " +
+                                             std::to_string(s.nx) + " x " + std::to_string(s.ny);
+                    Testing::ForEachSimdTarget([&](const std::string& target) {
+                        ImageRef output = Images::Image::New();
+                        BasicFunctions::Erode(input, output, element);
+                        ExpectStored(output, type, eroded, what + ", erode, " + target);
+                        BasicFunctions::Dilate(input, output, element);
+                        ExpectStored(output, type, dilated, what + ", dilate, " + target);
+                        Segmentation::Functions::WhiteTophat(input, output, element);
+                        ExpectStored(output, type, whiteTophat, what + ", white top-hat, " + target);
+                        ImageRef inPlace = ImageOf(type, s, f.values);
+                        OpeningClosing::Functions::Close(inPlace, inPlace, element);
+                        ExpectStored(inPlace, type, closed, what + ", close in place, " + target);
+                    });
+                }
+    });
+}
+
+// Images large enough to be cut into bands over the processing pool, and
+// one large enough (8 MB) to be written with streaming stores, rows not
+// aligned to a vector.
+TEST(Morphology, BandedAndStreamedErosionMatchTheDefinition)
+{
+    InChildProcess([] {
+        StartBasic();
+        const Shape banded{{300, 261}, Axes::aXY, 300, 261, 1, 1};
+        const Shape streamed{{1030, 1025}, Axes::aXY, 1030, 1025, 1, 1};
+        const std::tuple<const Shape*, System::NumericTypeEnum, double> cases[] = {
+            {&banded, System::ntUInt8, 1.0},
+            {&banded, System::ntUInt8, 3.0},
+            {&banded, System::ntFloat, 1.0},
+            {&streamed, System::ntDouble, 2.0},
+        };
+        for (const auto& [shape, type, radius] : cases) {
+            const Shape& s = *shape;
+            const ImageRef input = ImageOf(type, s, WideValues(type, std::size_t(s.nx * s.ny), 77));
+            const Plain f{s.nx, s.ny, 1, 1, SamplesOf(input)};
+            Ref<IStructuringElement> disk = StructuringElement::New(pseDisk, radius);
+            const std::vector<Offset3> offsets = OffsetsOf(*disk->Points());
+            const Plain eroded = Morph(f, offsets, false), dilated = Morph(f, offsets, true);
+            const std::string what =
+                std::to_string(s.nx) + " x " + std::to_string(s.ny) + ", radius " + std::to_string(radius);
+            Testing::ForEachSimdTarget([&](const std::string& target) {
+                ImageRef output = Images::Image::New();
+                BasicFunctions::Erode(input, output, disk);
+                ExpectStored(output, type, eroded, "erode " + what + ", " + target);
+                ImageRef inPlace = ImageOf(type, s, f.values);
+                BasicFunctions::Dilate(inPlace, inPlace, disk);
+                ExpectStored(inPlace, type, dilated, "dilate in place " + what + ", " + target);
+            });
+        }
     });
 }
 

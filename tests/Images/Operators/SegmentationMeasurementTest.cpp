@@ -15,6 +15,7 @@
 #include "../../Support/BasicLibrary.h"
 #include "../../Support/InChildProcess.h"
 #include "../../Support/Raised.h"
+#include "../../Support/SimdTargets.h"
 #include "SampleImages.h"
 
 #include <gmock/gmock.h>
@@ -22,6 +23,7 @@
 
 #include <cmath>
 #include <limits>
+#include <random>
 
 namespace Quilon_::Tests::SegmentationMeasurementSuite {
 
@@ -311,6 +313,196 @@ TEST(MeasurementsBasic, MomentsAndVolumeAreGivenPerBand)
         std::vector<double> sums;
         M::Volume(image, sums);
         EXPECT_EQ(sums, (std::vector<double>{12, 16}));
+    });
+}
+
+// ---- Dense images: counted by value, thresholded in bands ----------------------
+
+constexpr double nan = std::numeric_limits<double>::quiet_NaN();
+constexpr double inf = std::numeric_limits<double>::infinity();
+
+// DispatchSampleType over the real sample types, which are all these tests use.
+template <class Function>
+decltype(auto) WithRealType(System::NumericTypeEnum type, Function&& function)
+{
+    return Basic::Images::DispatchSampleType(type, [&](auto tag) -> decltype(auto) {
+        if constexpr (std::is_arithmetic_v<typename decltype(tag)::type>)
+            return function(tag);
+        else
+            return function(std::type_identity<double>{});
+    });
+}
+
+// Two humps, so that Otsu's split means something, spread over the type's
+// range, clamped to it; floating types get a few NaNs and infinities.
+std::vector<double> TwoHumps(System::NumericTypeEnum type, std::size_t count, unsigned seed)
+{
+    std::mt19937 random(seed);
+    std::vector<double> values(count);
+    WithRealType(type, [&](auto tag) {
+        using T = typename decltype(tag)::type;
+        const double low = std::is_integral_v<T> ? double(std::numeric_limits<T>::lowest()) : -1e4;
+        const double high = std::is_integral_v<T> ? double(std::numeric_limits<T>::max()) : 1e4;
+        const double span = high - low;
+        for (double& value : values) {
+            const double centre = random() % 3 == 0 ? low + 0.25 * span : low + 0.7 * span;
+            const double drawn = std::normal_distribution<double>(centre, 0.15 * span)(random);
+            value = double(T(std::clamp(drawn, low, high)));
+            if constexpr (!std::is_integral_v<T>) {
+                const double specials[] = {nan, inf, -inf};
+                if (random() % 97 == 0)
+                    value = specials[random() % 3];
+            }
+        }
+    });
+    return values;
+}
+
+struct DenseShape {
+    std::vector<std::int64_t> extent;
+    Axes axes;
+    std::size_t Count() const
+    {
+        std::size_t count = 1;
+        for (std::int64_t size : extent)
+            count *= std::size_t(size);
+        return count;
+    }
+};
+
+// Large enough to be banded, with an odd tail; a small volume.
+const std::vector<DenseShape> denseShapes{{{613, 211}, Axes::aXY}, {{37, 5, 3}, Axes::aXYZ}};
+
+TEST(SegmentationBasic, DenseThresholdsCompareAsDoublesUnderEveryInstructionSet)
+{
+    InChildProcess([] {
+        StartBasic();
+        // lower <= v <= upper, as the source's samples compare in double.
+        const std::vector<std::pair<double, double>> bounds{
+            {128, inf}, {0.5, inf},  {-1e300, inf}, {1e300, inf}, {nan, inf}, {-inf, inf},
+            {0.1, inf}, {10, 200.5}, {-0.1, 0.1},   {200, 100},   {nan, 5.0}, {-40000, 40000.5}};
+        for (System::NumericTypeEnum type :
+             {System::ntUInt8, System::ntInt8, System::ntUInt16, System::ntInt16, System::ntInt32,
+              System::ntUInt32, System::ntFloat, System::ntDouble})
+            for (const DenseShape& shape : denseShapes) {
+                const std::vector<double> values = TwoHumps(type, shape.Count(), 3);
+                ImageRef source = SampleImage(type, shape.extent, shape.axes, values);
+                Testing::ForEachSimdTarget([&](const std::string& target) {
+                    for (const auto& [lower, upper] : bounds) {
+                        std::vector<double> expected(values.size());
+                        for (std::size_t i = 0; i < values.size(); ++i)
+                            expected[i] = lower <= values[i] && values[i] <= upper ? 255 : 0;
+                        ImageRef binary = Image::New();
+                        if (upper == inf)
+                            S::Threshold(source, binary, lower);
+                        else
+                            S::Threshold(source, binary, ::Quilon_::Math::IntervalD::New(lower, upper));
+                        ASSERT_EQ(SamplesOf(binary), expected)
+                            << System::ToAnsi(System::ToString(type)) << " [" << lower << ", " << upper
+                            << "] of " << values.size() << " under " << target;
+                    }
+                });
+            }
+    });
+}
+
+TEST(SegmentationBasic, OtsuAndEntropyByValueTableMatchTheSortedCounts)
+{
+    InChildProcess([] {
+        StartBasic();
+        // Without a mask, 8- and 16-bit images are counted by value; a mask
+        // of ones selects the same samples through the sorted counts.
+        for (System::NumericTypeEnum type :
+             {System::ntUInt8, System::ntInt8, System::ntUInt16, System::ntInt16})
+            for (const DenseShape& shape : denseShapes) {
+                SCOPED_TRACE(System::ToAnsi(System::ToString(type)) + " of " + std::to_string(shape.Count()));
+                ImageRef source =
+                    SampleImage(type, shape.extent, shape.axes, TwoHumps(type, shape.Count(), 4));
+                ImageRef ones = SampleImage(System::ntUInt8, shape.extent, shape.axes,
+                                            std::vector<double>(shape.Count(), 1));
+                ImageRef fast = Image::New(), plain = Image::New();
+                double fastLevel = nan, plainLevel = nan;
+                S::OtsuThreshold(source, fast, Mask(), fastLevel);
+                S::OtsuThreshold(source, plain, Mask(ones), plainLevel);
+                EXPECT_EQ(fastLevel, plainLevel);
+                EXPECT_EQ(SamplesOf(fast), SamplesOf(plain));
+                S::EntropyThreshold(source, fast, Mask(), fastLevel);
+                S::EntropyThreshold(source, plain, Mask(ones), plainLevel);
+                EXPECT_EQ(fastLevel, plainLevel);
+                EXPECT_EQ(SamplesOf(fast), SamplesOf(plain));
+            }
+    });
+}
+
+TEST(MeasurementsBasic, HistogramsByValueTableMatchTheSampleWalk)
+{
+    InChildProcess([] {
+        StartBasic();
+        // The same samples as doubles take the walk sample by sample.
+        for (System::NumericTypeEnum type :
+             {System::ntUInt8, System::ntInt8, System::ntUInt16, System::ntInt16})
+            for (const DenseShape& shape : denseShapes) {
+                SCOPED_TRACE(System::ToAnsi(System::ToString(type)) + " of " + std::to_string(shape.Count()));
+                const std::vector<double> values = TwoHumps(type, shape.Count(), 5);
+                ImageRef image = SampleImage(type, shape.extent, shape.axes, values);
+                ImageRef doubles = SampleImage(System::ntDouble, shape.extent, shape.axes, values);
+                for (const auto& [bins, low, high] :
+                     std::vector<std::tuple<std::int64_t, double, double>>{{7, -3.5, 200.25},
+                                                                           {256, 0, 256},
+                                                                           {1000, -40000, 40000},
+                                                                           {2, 100, 100.5},
+                                                                           {3, 100, 100}}) {
+                    auto range = ::Quilon_::Math::RangeD::New(low, high);
+                    EXPECT_EQ(M::Histogram(image, bins, range)->Counts(),
+                              M::Histogram(doubles, bins, range)->Counts())
+                        << bins << " bins over [" << low << ", " << high << "]";
+                }
+                // One bin per value of the type, from its lowest.
+                const std::vector<std::int64_t> counts = M::Histogram(image)->Counts();
+                const double lowest = WithRealType(type, [](auto tag) {
+                    return double(std::numeric_limits<typename decltype(tag)::type>::lowest());
+                });
+                std::vector<std::int64_t> expected(counts.size(), 0);
+                for (double value : values)
+                    ++expected.at(std::size_t(value - lowest));
+                EXPECT_EQ(counts, expected);
+            }
+    });
+}
+
+TEST(MeasurementsBasic, RangesOfDenseImagesMatchTheMaskedWalk)
+{
+    InChildProcess([] {
+        StartBasic();
+        // A mask of ones selects every sample through the walk.
+        auto expectSameRange = [](const ImageRef& image, const DenseShape& shape) {
+            ImageRef ones =
+                SampleImage(System::ntUInt8, shape.extent, shape.axes, std::vector<double>(shape.Count(), 1));
+            const auto fast = M::Range(image), plain = M::Range(image, Mask(ones));
+            EXPECT_EQ(std::signbit(fast->Minimum()), std::signbit(plain->Minimum()));
+            EXPECT_EQ(fast->Minimum(), plain->Minimum());
+            EXPECT_EQ(fast->Maximum(), plain->Maximum());
+        };
+        for (System::NumericTypeEnum type :
+             {System::ntUInt8, System::ntInt8, System::ntUInt16, System::ntInt16, System::ntInt32,
+              System::ntUInt32, System::ntFloat, System::ntDouble})
+            for (const DenseShape& shape : denseShapes) {
+                SCOPED_TRACE(System::ToAnsi(System::ToString(type)) + " of " + std::to_string(shape.Count()));
+                expectSameRange(SampleImage(type, shape.extent, shape.axes, TwoHumps(type, shape.Count(), 6)),
+                                shape);
+            }
+        // Of equal extremes the first in memory is kept, across bands too;
+        // an image of NaNs alone has the range [0, 0].
+        const DenseShape large = denseShapes.front();
+        std::vector<double> zeros(large.Count(), 1.0);
+        zeros[10] = -0.0;
+        zeros[large.Count() - 10] = 0.0;
+        expectSameRange(SampleImage(System::ntFloat, large.extent, large.axes, zeros), large);
+        std::swap(zeros[10], zeros[large.Count() - 10]);
+        expectSameRange(SampleImage(System::ntDouble, large.extent, large.axes, zeros), large);
+        expectSameRange(
+            SampleImage(System::ntFloat, large.extent, large.axes, std::vector<double>(large.Count(), nan)),
+            large);
     });
 }
 

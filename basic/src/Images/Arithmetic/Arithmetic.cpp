@@ -6,6 +6,7 @@
 #include "Quilon_/Images/Arithmetic/Functions.h"
 
 #include "Images/Operators/OperatorSupport.h"
+#include "Images/Operators/Pointwise.h"
 #include "Quilon_/Math/Range.h"
 #include "Quilon_/PrivateLibrary.h"
 #include "Quilon_/System/Helper.h"
@@ -108,6 +109,8 @@ void AddConstant(ImageRef a, const System::Any& b, ImageRef out)
 }
 void AddImage(ImageRef a, ImageRef b, ImageRef out)
 {
+    if (Pointwise::Sum(a, b, out, false))
+        return;
     WithImage<false>(a, b, out, plus);
 }
 void SubtractConstant(ImageRef a, const System::Any& b, ImageRef out)
@@ -116,6 +119,8 @@ void SubtractConstant(ImageRef a, const System::Any& b, ImageRef out)
 }
 void SubtractImage(ImageRef a, ImageRef b, ImageRef out)
 {
+    if (Pointwise::Sum(a, b, out, true))
+        return;
     WithImage<false>(a, b, out, minus);
 }
 void MultiplyConstant(ImageRef a, const System::Any& b, ImageRef out)

@@ -3,6 +3,7 @@
 // mode). Each loads the source into a block of its compute type, filters
 // there, and stores into the destination's type, so that a kernel exists
 // once per compute type, not once per sample type.
+#include "Images/Filtering/FastFilters.h"
 #include "Images/Filtering/Neighbourhood.h"
 
 #include "Quilon_/Geometry/Kernel.h"
@@ -64,6 +65,11 @@ void CheckSigma(double sigma)
 }
 
 // Radius -1: derived from sigma, ceil(3 sigma).
+std::int64_t RadiusOf(double sigma, std::int64_t radius)
+{
+    return radius >= 0 ? radius : static_cast<std::int64_t>(std::ceil(3 * sigma));
+}
+
 void GaussianOf(const ImageRef& source, const ImageRef& destination, const std::vector<double>& sigmas,
                 std::int64_t radius, const BorderRule& border)
 {
@@ -73,12 +79,18 @@ void GaussianOf(const ImageRef& source, const ImageRef& destination, const std::
                      static_cast<std::int64_t>(slots.size()), static_cast<std::int64_t>(sigmas.size()));
     for (double sigma : sigmas)
         CheckSigma(sigma);
+    std::vector<std::vector<double>> weightsBySlot;
+    for (double sigma : sigmas)
+        weightsBySlot.push_back(sigma > 0 ? GaussianWeights<double>(sigma, RadiusOf(sigma, radius))
+                                          : std::vector<double>{});
+    if (SymmetricSeparableFast(source, destination, weightsBySlot, border))
+        return;
     Run(source, destination, [&]<class C>(Samples<C>& samples) -> Samples<C>& {
         ProgressReport progress(static_cast<std::int64_t>(slots.size()));
         for (std::size_t k = 0; k < slots.size(); ++k) {
             const double sigma = sigmas[k];
             if (sigma > 0) {
-                const std::int64_t r = radius >= 0 ? radius : static_cast<std::int64_t>(std::ceil(3 * sigma));
+                const std::int64_t r = RadiusOf(sigma, radius);
                 CorrelateSlot(samples, slots[k], GaussianWeights<C>(sigma, r), r, border);
             }
             progress.Step();
@@ -126,6 +138,13 @@ void BoxMean(Samples<C>& samples, const std::vector<int>& slots, std::int64_t si
 void Box(ImageRef source, ImageRef destination, std::int64_t side)
 {
     const std::vector<int> slots = SpatialSlots(source);
+    if (side >= 1 && side % 2 == 1 &&
+        SymmetricSeparableFast(
+            source, destination,
+            std::vector<std::vector<double>>(
+                slots.size(), std::vector<double>(static_cast<std::size_t>(side), 1.0 / double(side))),
+            BorderRule{}))
+        return;
     Run(source, destination, [&]<class C>(Samples<C>& samples) -> Samples<C>& {
         BoxMean(samples, slots, side);
         return samples;
@@ -270,22 +289,26 @@ double MedianRank(std::size_t count)
     return count > 1 ? static_cast<double>((count - 1) / 2) / static_cast<double>(count - 1) : 0.0;
 }
 
+void MedianOf(const ImageRef& source, const ImageRef& destination, const std::vector<Point>& points,
+              const BorderRule& border)
+{
+    if (!MedianFast(source, destination, points, border))
+        RankOf(source, destination, points, MedianRank(points.size()), border);
+}
+
 void Median0(ImageRef source, ImageRef destination, std::int64_t side)
 {
-    const std::vector<Point> points = WindowPoints(SpatialSlots(source), side);
-    RankOf(source, destination, points, MedianRank(points.size()), BorderRule{});
+    MedianOf(source, destination, WindowPoints(SpatialSlots(source), side), BorderRule{});
 }
 
 void Median1(ImageRef source, ImageRef destination, ElementRef element)
 {
-    const std::vector<Point> points = ElementPoints(*element);
-    RankOf(source, destination, points, MedianRank(points.size()), BorderRule{});
+    MedianOf(source, destination, ElementPoints(*element), BorderRule{});
 }
 
 void Median2(ImageRef source, ImageRef destination, ElementRef element, const Padding& padding)
 {
-    const std::vector<Point> points = ElementPoints(*element);
-    RankOf(source, destination, points, MedianRank(points.size()), BorderOf(&padding));
+    MedianOf(source, destination, ElementPoints(*element), BorderOf(&padding));
 }
 
 void RankValue0(ImageRef source, ImageRef destination, std::int64_t side, double rank)

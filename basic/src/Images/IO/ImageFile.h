@@ -225,8 +225,8 @@ private:
 // layout, and the clone that Read works on. A reader states its name,
 // extensions, signature, how it parses a header (ParseHeader, filling the
 // layout) and how it decodes into a prepared image (Decode).
-template <class Derived, class Interface = QI::IO::IBitmapReader>
-class ReaderBase : public System::Template::ObjectImpl<Derived, Interface, System::ICloneable> {
+template <class Derived, class Interface = QI::IO::IBitmapReader, class... More>
+class ReaderBase : public System::Template::ObjectImpl<Derived, Interface, More..., System::ICloneable> {
 public:
     void Open(const std::wstring& fileName) override { OpenMemory(LoadFile(fileName), fileName); }
     void OpenMemory(System::Ref<System::IMemory> bytes, const std::wstring& name) override

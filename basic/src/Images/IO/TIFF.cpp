@@ -178,7 +178,59 @@ PageShape ShapeOf(TIFF* tiff)
     return shape;
 }
 
-class CTIFFReader : public ReaderBase<CTIFFReader, QI::IO::IMultiPageBitmapReader> {
+// A rectangle of a page, in pixels.
+struct TIFFRegion {
+    std::int64_t x = 0;
+    std::int64_t y = 0;
+    std::int64_t width = 0;
+    std::int64_t height = 0;
+};
+
+// How a page is cut into the pieces libtiff decodes: tiles, or strips of
+// whole rows, which read as tiles as wide as the page.
+struct TIFFTileGrid {
+    bool tiled = false;
+    std::int64_t width = 0; // of a whole tile
+    std::int64_t height = 0;
+    std::int64_t columns = 0;
+    std::int64_t rows = 0;
+
+    // The tile (column, row) cut by the page's edges.
+    TIFFRegion Tile(std::int64_t column, std::int64_t row, std::int64_t pageWidth,
+                    std::int64_t pageHeight) const
+    {
+        const std::int64_t left = column * width;
+        const std::int64_t top = row * height;
+        return {left, top, std::min(width, pageWidth - left), std::min(height, pageHeight - top)};
+    }
+};
+
+TIFFTileGrid GridOf(TIFF* tiff, std::int64_t pageWidth, std::int64_t pageHeight)
+{
+    TIFFTileGrid grid;
+    grid.tiled = TIFFIsTiled(tiff) != 0;
+    if (grid.tiled) {
+        std::uint32_t width = 0;
+        std::uint32_t height = 0;
+        TIFFGetField(tiff, TIFFTAG_TILEWIDTH, &width);
+        TIFFGetField(tiff, TIFFTAG_TILELENGTH, &height);
+        grid.width = width;
+        grid.height = height;
+    } else {
+        std::uint32_t rowsPerStrip = 0;
+        TIFFGetFieldDefaulted(tiff, TIFFTAG_ROWSPERSTRIP, &rowsPerStrip);
+        grid.width = pageWidth;
+        grid.height = rowsPerStrip == 0 || rowsPerStrip > pageHeight ? pageHeight : rowsPerStrip;
+    }
+    if (grid.width > 0 && grid.height > 0) {
+        grid.columns = (pageWidth + grid.width - 1) / grid.width;
+        grid.rows = (pageHeight + grid.height - 1) / grid.height;
+    }
+    return grid;
+}
+
+class CTIFFReader
+    : public ReaderBase<CTIFFReader, QI::IO::IMultiPageBitmapReader, QI::IO::ITiledBitmapReader> {
 public:
     std::wstring Name() override { return tiffFormatName; }
     std::vector<std::wstring> Extensions() override { return {L"tif", L"tiff"}; }
@@ -245,6 +297,49 @@ public:
         DecodePages(image, page, m_page);
     }
 
+    bool IsTiled() override { return CurrentGrid().tiled; }
+    System::Ref<Geometry::ICoordinates> TileSize() override
+    {
+        const TIFFTileGrid grid = CurrentGrid();
+        return PairOf(grid.width, grid.height);
+    }
+    System::Ref<Geometry::ICoordinates> TileCount() override
+    {
+        const TIFFTileGrid grid = CurrentGrid();
+        return PairOf(grid.columns, grid.rows);
+    }
+    System::Ref<Geometry::ICoordinates> TileOf(System::Ref<Geometry::ICoordinates> location) override
+    {
+        const TIFFTileGrid grid = CurrentGrid();
+        const std::int64_t x = location->X();
+        const std::int64_t y = location->Y();
+        if (x < 0 || y < 0 || x >= Layout().width || y >= Layout().height)
+            QUILON_RAISE(L"The location (%1%, %2%) is outside the %3% x %4% image of the file '%5%'", x, y,
+                         Layout().width, Layout().height, FileName());
+        return PairOf(x / grid.width, y / grid.height);
+    }
+    void ReadTile(std::int64_t x, std::int64_t y, ImageRef image) override
+    {
+        const TIFFTileGrid grid = CurrentGrid();
+        if (x < 0 || y < 0 || x >= grid.columns || y >= grid.rows)
+            QUILON_RAISE(L"Tile (%1%, %2%) is outside the %3% x %4% tiles of the file '%5%'", x, y,
+                         grid.columns, grid.rows, FileName());
+        ReadRegionOfPage(grid.Tile(x, y, Layout().width, Layout().height), image);
+    }
+    void ReadRegion(System::Ref<Geometry::ICoordinates> origin, System::Ref<Geometry::ICoordinates> size,
+                    ImageRef image) override
+    {
+        Size(); // raises when no file is open
+        SetCurrentPage(m_page);
+        const TIFFRegion region{origin->X(), origin->Y(), size->X(), size->Y()};
+        if (region.width <= 0 || region.height <= 0 || region.x < 0 || region.y < 0 ||
+            region.x > Layout().width - region.width || region.y > Layout().height - region.height)
+            QUILON_RAISE(
+                L"The region of %1% x %2% at (%3%, %4%) is not inside the %5% x %6% image of the file '%7%'",
+                region.width, region.height, region.x, region.y, Layout().width, Layout().height, FileName());
+        ReadRegionOfPage(region, image);
+    }
+
 private:
     TIFFSession NewSession() const
     {
@@ -278,85 +373,124 @@ private:
     }
 
     // The pages from `first` on, as many as the layout's depth, into an
-    // image prepared for the layout.
-    void DecodePages(const ImageRef& image, const ImageLayout& layout, std::int64_t first)
+    // image prepared for the layout; of each page the part `region`, whose
+    // size is the layout's.
+    void DecodePages(const ImageRef& image, const ImageLayout& layout, std::int64_t first,
+                     const TIFFRegion& region)
     {
         DispatchSampleType(layout.type, [&](auto tag) {
             using T = typename decltype(tag)::type;
             if constexpr (std::is_arithmetic_v<T>)
-                DecodeAs<T>(image, layout, first);
+                DecodeAs<T>(image, layout, first, region);
         });
+    }
+    void DecodePages(const ImageRef& image, const ImageLayout& layout, std::int64_t first)
+    {
+        DecodePages(image, layout, first, {0, 0, layout.width, layout.height});
     }
 
     template <class T>
-    void DecodeAs(const ImageRef& image, const ImageLayout& layout, std::int64_t first)
+    void DecodeAs(const ImageRef& image, const ImageLayout& layout, std::int64_t first,
+                  const TIFFRegion& region)
     {
         TIFFSession session = NewSession();
         Options options(session.error);
-        Handle tiff(Open(session, options));
-        if (first > 0 && !TIFFSetDirectory(tiff.Get(), tdir_t(first)))
-            Fail(session);
+        Handle tiff(OpenPage(session, options, first));
         RowWriter<T> rows(image, layout);
         std::vector<T> page(std::size_t(layout.SamplesPerRow() * layout.height));
         for (std::int64_t z = 0; z < layout.depth; ++z) {
             if (z > 0 && !TIFFReadDirectory(tiff.Get()))
                 Fail(session);
-            if (TIFFIsTiled(tiff.Get()))
-                ReadTiles(tiff.Get(), session, page);
-            else
-                ReadStrips(tiff.Get(), session, page);
+            DecodeRegion(tiff.Get(), session, region, page.data());
             for (std::int64_t y = 0; y < layout.height; ++y)
                 rows.Store(page.data() + y * layout.SamplesPerRow(), y, z);
         }
     }
 
+    TIFF* OpenPage(TIFFSession& session, const Options& options, std::int64_t page)
+    {
+        TIFF* tiff = Open(session, options);
+        if (page > 0 && !TIFFSetDirectory(tiff, tdir_t(page))) {
+            TIFFClose(tiff);
+            Fail(session);
+        }
+        return tiff;
+    }
+
+    // Decodes the tiles that `region` of the current directory touches and
+    // copies their part of it into `out`, region.width samples per row.
     template <class T>
-    void ReadStrips(TIFF* tiff, TIFFSession& session, std::vector<T>& page)
+    void DecodeRegion(TIFF* tiff, TIFFSession& session, const TIFFRegion& region, T* out)
     {
         const ImageLayout& layout = Layout();
-        const std::int64_t rowBytes = layout.SamplesPerRow() * std::int64_t(sizeof(T));
-        std::uint32_t rowsPerStrip = 0;
-        TIFFGetFieldDefaulted(tiff, TIFFTAG_ROWSPERSTRIP, &rowsPerStrip);
-        if (rowsPerStrip == 0 || rowsPerStrip > layout.height)
-            rowsPerStrip = std::uint32_t(layout.height);
-        std::vector<std::uint8_t> strip(std::size_t(rowBytes * rowsPerStrip));
-        auto* out = reinterpret_cast<std::uint8_t*>(page.data());
-        for (std::int64_t y = 0; y < layout.height; y += rowsPerStrip) {
-            const std::int64_t rows = std::min<std::int64_t>(rowsPerStrip, layout.height - y);
-            const tmsize_t wanted = tmsize_t(rows * rowBytes);
-            if (TIFFReadEncodedStrip(tiff, TIFFComputeStrip(tiff, std::uint32_t(y), 0), strip.data(),
-                                     wanted) < wanted)
-                Fail(session);
-            std::memcpy(out + y * rowBytes, strip.data(), std::size_t(wanted));
-        }
+        const TIFFTileGrid grid = GridOf(tiff, layout.width, layout.height);
+        const std::int64_t bands = layout.bands;
+        const std::int64_t tileSamples = grid.width * grid.height * bands;
+        // A tile must hold exactly its pixels: anything else (subsampled
+        // colour, bits that are not whole samples) is not read as samples.
+        if (grid.columns == 0 || grid.rows == 0 ||
+            (grid.tiled && TIFFTileSize(tiff) != tmsize_t(tileSamples * std::int64_t(sizeof(T)))))
+            Fail(session);
+        std::vector<T> tile(static_cast<std::size_t>(tileSamples));
+        for (std::int64_t row = region.y / grid.height; row <= (region.y + region.height - 1) / grid.height;
+             ++row)
+            for (std::int64_t column = region.x / grid.width;
+                 column <= (region.x + region.width - 1) / grid.width; ++column) {
+                const TIFFRegion piece = grid.Tile(column, row, layout.width, layout.height);
+                DecodeTile(tiff, session, grid, piece, tile.data());
+                const std::int64_t x0 = std::max(piece.x, region.x);
+                const std::int64_t x1 = std::min(piece.x + piece.width, region.x + region.width);
+                const std::int64_t y0 = std::max(piece.y, region.y);
+                const std::int64_t y1 = std::min(piece.y + piece.height, region.y + region.height);
+                for (std::int64_t y = y0; y < y1; ++y)
+                    std::memcpy(out + ((y - region.y) * region.width + x0 - region.x) * bands,
+                                tile.data() + ((y - piece.y) * grid.width + x0 - piece.x) * bands,
+                                std::size_t((x1 - x0) * bands) * sizeof(T));
+            }
     }
 
     template <class T>
-    void ReadTiles(TIFF* tiff, TIFFSession& session, std::vector<T>& page)
+    void DecodeTile(TIFF* tiff, TIFFSession& session, const TIFFTileGrid& grid, const TIFFRegion& piece,
+                    T* tile)
     {
-        const ImageLayout& layout = Layout();
-        std::uint32_t tileWidth = 0;
-        std::uint32_t tileHeight = 0;
-        TIFFGetField(tiff, TIFFTAG_TILEWIDTH, &tileWidth);
-        TIFFGetField(tiff, TIFFTAG_TILELENGTH, &tileHeight);
-        const tmsize_t tileBytes = TIFFTileSize(tiff);
-        const std::int64_t pixelSamples = layout.bands;
-        if (tileWidth == 0 || tileHeight == 0 ||
-            tileBytes !=
-                tmsize_t(std::int64_t(tileWidth) * tileHeight * pixelSamples * std::int64_t(sizeof(T))))
+        if (grid.tiled) {
+            if (TIFFReadTile(tiff, tile, std::uint32_t(piece.x), std::uint32_t(piece.y), 0, 0) < 0)
+                Fail(session);
+            return;
+        }
+        const tmsize_t wanted =
+            tmsize_t(piece.height * grid.width * Layout().bands * std::int64_t(sizeof(T)));
+        if (TIFFReadEncodedStrip(tiff, TIFFComputeStrip(tiff, std::uint32_t(piece.y), 0), tile, wanted) <
+            wanted)
             Fail(session);
-        std::vector<T> tile(std::size_t(tileBytes) / sizeof(T));
-        for (std::int64_t top = 0; top < layout.height; top += tileHeight)
-            for (std::int64_t left = 0; left < layout.width; left += tileWidth) {
-                if (TIFFReadTile(tiff, tile.data(), std::uint32_t(left), std::uint32_t(top), 0, 0) < 0)
-                    Fail(session);
-                const std::int64_t rows = std::min<std::int64_t>(tileHeight, layout.height - top);
-                const std::int64_t columns = std::min<std::int64_t>(tileWidth, layout.width - left);
-                for (std::int64_t y = 0; y < rows; ++y)
-                    std::memcpy(page.data() + ((top + y) * layout.width + left) * pixelSamples,
-                                tile.data() + y * tileWidth * pixelSamples,
-                                std::size_t(columns * pixelSamples) * sizeof(T));
-            }
+    }
+
+    // The grid of the current page.
+    TIFFTileGrid CurrentGrid()
+    {
+        Size(); // raises when no file is open
+        SetCurrentPage(m_page);
+        TIFFSession session = NewSession();
+        Options options(session.error);
+        Handle tiff(OpenPage(session, options, m_page));
+        const TIFFTileGrid grid = GridOf(tiff.Get(), Layout().width, Layout().height);
+        if (grid.columns == 0 || grid.rows == 0)
+            Fail(session);
+        return grid;
+    }
+
+    void ReadRegionOfPage(const TIFFRegion& region, const ImageRef& image)
+    {
+        ImageLayout part = PageLayout();
+        part.width = region.width;
+        part.height = region.height;
+        PrepareImage(image, part);
+        DecodePages(image, part, m_page, region);
+    }
+
+    static System::Ref<Geometry::ICoordinates> PairOf(std::int64_t x, std::int64_t y)
+    {
+        return Geometry::Coordinates::New(x, y, Geometry::Axes::aXY);
     }
 
     std::int64_t m_page = 0;

@@ -4,6 +4,7 @@
 // in its compute type, once, and walks the block; NaN samples are left
 // out everywhere.
 #include "Images/Filtering/Neighbourhood.h"
+#include "Images/Operators/Pointwise.h"
 
 #include "Quilon_/Geometry/Box.h"
 #include "Quilon_/Geometry/Coordinates.h"
@@ -79,6 +80,8 @@ decltype(auto) Measured(const ImageRef& image, const MaskRef& weightImage, Measu
 // [least, greatest] of the selected samples; [0, 0] with none.
 std::pair<double, double> Extremes(const ImageRef& image, const MaskRef& mask)
 {
+    if (double low = 0, high = 0; !mask && Pointwise::Extremes(image, low, high))
+        return {low, high};
     return Measured(image, mask, [](const auto& samples, const Samples<double>* weights) {
         double low = std::numeric_limits<double>::infinity(), high = -low;
         ForEachWeighted(samples, weights, [&](auto v, double, std::int64_t) {
@@ -109,17 +112,34 @@ HistogramRef HistogramOver(const ImageRef& image, std::int64_t bins, double low,
         QUILON_RAISE(L"Invalid bin count: %1%", bins);
     std::vector<std::int64_t> counts(static_cast<std::size_t>(bins), 0);
     const double width = (high - low) / static_cast<double>(bins);
-    Measured(image, nullptr, [&](const auto& samples, const Samples<double>* weights) {
-        ForEachWeighted(samples, weights, [&](auto v, double, std::int64_t) {
-            const double value = static_cast<double>(v);
-            if (!(value >= low && value <= high))
-                return;
-            const auto bin =
-                std::min<std::int64_t>(static_cast<std::int64_t>((value - low) / width), bins - 1);
-            ++counts[static_cast<std::size_t>(bin)];
+    auto count = [&](double value, std::int64_t times) {
+        if (!(value >= low && value <= high))
+            return;
+        // A range of one value has bins of width 0: its value is `high`, which
+        // the last bin takes.
+        const auto bin =
+            width > 0 ? std::min<std::int64_t>(static_cast<std::int64_t>((value - low) / width), bins - 1)
+                      : bins - 1;
+        counts[static_cast<std::size_t>(bin)] += times;
+    };
+    // Images of 8- and 16-bit integers are counted by value first, then
+    // each value is put in its bin once.
+    std::vector<std::int64_t> table;
+    if (Pointwise::CountValues(image, table)) {
+        const System::NumericTypeEnum type = DataTypeOf(image);
+        const bool isSigned = type == System::ntInt8 || type == System::ntInt16;
+        const auto size = static_cast<std::int64_t>(table.size());
+        for (std::int64_t index = 0; index < size; ++index)
+            if (table[static_cast<std::size_t>(index)] != 0)
+                count(static_cast<double>(isSigned && index >= size / 2 ? index - size : index),
+                      table[static_cast<std::size_t>(index)]);
+    } else {
+        Measured(image, nullptr, [&](const auto& samples, const Samples<double>* weights) {
+            ForEachWeighted(samples, weights,
+                            [&](auto v, double, std::int64_t) { count(static_cast<double>(v), 1); });
+            return 0;
         });
-        return 0;
-    });
+    }
     HistogramRef histogram =
         ::Quilon_::Measurements::Histogram::New(bins, ::Quilon_::Math::RangeD::New(low, high), false);
     histogram->SetCounts(counts);

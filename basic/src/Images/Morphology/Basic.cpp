@@ -2,6 +2,7 @@
 // library: a run of erosion and dilation passes per volume of the image,
 // over a structuring element or a neighbourhood graph with its centre.
 #include "Images/Morphology/MorphologySupport.h"
+#include "Images/Morphology/RowErosion.h"
 
 #include "Quilon_/Geometry/NgbGraph.h"
 #include "Quilon_/Geometry/StructuringElement.h"
@@ -12,38 +13,28 @@
 #include "Quilon_/System/Raise.h"
 
 #include <initializer_list>
+#include <span>
 
 namespace Quilon_::Basic::Images::Morphology {
 
 namespace {
 
 namespace Catalogue = ::Quilon_::Images::Morphology;
-using ElementRef = System::Ref<Geometry::IStructuringElement>;
-using GraphRef = System::Ref<Geometry::INgbGraph>;
-
-// `times` erosions, or dilations, by `shifts`.
-struct Pass {
-    bool dilate;
-    const std::vector<Shift>& shifts;
-    std::int64_t times;
-};
-
-// What is written: the result of the passes, or its difference with the
-// input (input - result for the white top-hat, result - input for the
-// black one).
-enum class Residue { none, white, black };
+using ElementRef = System::Ref<::Quilon_::Geometry::IStructuringElement>;
+using GraphRef = System::Ref<::Quilon_::Geometry::INgbGraph>;
 
 // Runs the passes from `source`, which stays as it is, through two scratch
-// buffers, and writes the result or its residue into `target`.
+// buffers, and writes the result or its residue into `target`: the
+// general path, for images that the row path does not take.
 template <class T>
-void RunPasses(const Grid& grid, const T* source, T* target, std::initializer_list<Pass> passes,
-               Residue residue)
+void RunPlainPasses(const Grid& grid, const T* source, T* target, std::span<const MorphologyPass> passes,
+                    Residue residue)
 {
     const auto count = static_cast<std::size_t>(grid.Count());
     std::vector<T> first(count), second(count);
     const T* current = source;
     T* next = first.data();
-    for (const Pass& pass : passes)
+    for (const MorphologyPass& pass : passes)
         for (std::int64_t i = 0; i < pass.times; ++i) {
             if (pass.dilate)
                 Dilate(grid, current, next, std::span<const Shift>(pass.shifts));
@@ -58,12 +49,24 @@ void RunPasses(const Grid& grid, const T* source, T* target, std::initializer_li
                                                 : current[i];
 }
 
-void Run(const ImageRef& in, const ImageRef& out, std::initializer_list<Pass> passes,
-         Residue residue = Residue::none)
+void RunMorphology(const ImageRef& in, const ImageRef& out, std::initializer_list<MorphologyPass> passes,
+                   Residue residue = Residue::none)
 {
+    const std::span<const MorphologyPass> list(passes.begin(), passes.size());
+    if (RunRowPasses(in, out, list, residue))
+        return;
     ForEachVolume(in, out, [&](const Grid& grid, auto* source, auto* target) {
-        RunPasses(grid, source, target, passes, residue);
+        RunPlainPasses(grid, source, target, list, residue);
     });
+}
+
+// The element's offsets, in a buffer of the calling thread that the next
+// call reuses: a call on a small image allocates nothing for them.
+const std::vector<Shift>& ShiftsOfElement(const ElementRef& element)
+{
+    thread_local std::vector<Shift> shifts;
+    ElementShiftsInto(*element, shifts);
+    return shifts;
 }
 
 std::int64_t CheckedIterations(std::int64_t iterations)
@@ -75,35 +78,35 @@ std::int64_t CheckedIterations(std::int64_t iterations)
 
 void ErodeByElement(ImageRef in, ImageRef out, ElementRef element)
 {
-    const std::vector<Shift> shifts = ShiftsOf(*element);
-    Run(in, out, {{false, shifts, 1}});
+    const std::vector<Shift>& shifts = ShiftsOfElement(element);
+    RunMorphology(in, out, {{false, shifts, 1}});
 }
 void ErodeByGraph(ImageRef in, ImageRef out, GraphRef graph, std::int64_t iterations)
 {
     const std::vector<Shift> shifts = ShiftsOf(*graph, true);
-    Run(in, out, {{false, shifts, CheckedIterations(iterations)}});
+    RunMorphology(in, out, {{false, shifts, CheckedIterations(iterations)}});
 }
 void DilateByElement(ImageRef in, ImageRef out, ElementRef element)
 {
-    const std::vector<Shift> shifts = ShiftsOf(*element);
-    Run(in, out, {{true, shifts, 1}});
+    const std::vector<Shift>& shifts = ShiftsOfElement(element);
+    RunMorphology(in, out, {{true, shifts, 1}});
 }
 void DilateByGraph(ImageRef in, ImageRef out, GraphRef graph, std::int64_t iterations)
 {
     const std::vector<Shift> shifts = ShiftsOf(*graph, true);
-    Run(in, out, {{true, shifts, CheckedIterations(iterations)}});
+    RunMorphology(in, out, {{true, shifts, CheckedIterations(iterations)}});
 }
 
 // Opening (erosion first) or closing (dilation first), or their residue.
 void OpenOrClose(const ImageRef& in, const ImageRef& out, const std::vector<Shift>& shifts, std::int64_t size,
                  bool open, Residue residue = Residue::none)
 {
-    Run(in, out, {{!open, shifts, size}, {open, shifts, size}}, residue);
+    RunMorphology(in, out, {{!open, shifts, size}, {open, shifts, size}}, residue);
 }
 
 void OpenByElement(ImageRef in, ImageRef out, ElementRef element)
 {
-    OpenOrClose(in, out, ShiftsOf(*element), 1, true);
+    OpenOrClose(in, out, ShiftsOfElement(element), 1, true);
 }
 void OpenByGraph(ImageRef in, ImageRef out, GraphRef graph, std::int64_t size)
 {
@@ -111,7 +114,7 @@ void OpenByGraph(ImageRef in, ImageRef out, GraphRef graph, std::int64_t size)
 }
 void CloseByElement(ImageRef in, ImageRef out, ElementRef element)
 {
-    OpenOrClose(in, out, ShiftsOf(*element), 1, false);
+    OpenOrClose(in, out, ShiftsOfElement(element), 1, false);
 }
 void CloseByGraph(ImageRef in, ImageRef out, GraphRef graph, std::int64_t size)
 {
@@ -119,7 +122,7 @@ void CloseByGraph(ImageRef in, ImageRef out, GraphRef graph, std::int64_t size)
 }
 void WhiteTophatByElement(ImageRef in, ImageRef out, ElementRef element)
 {
-    OpenOrClose(in, out, ShiftsOf(*element), 1, true, Residue::white);
+    OpenOrClose(in, out, ShiftsOfElement(element), 1, true, Residue::white);
 }
 void WhiteTophatByGraph(ImageRef in, ImageRef out, GraphRef graph, std::int64_t size)
 {
@@ -127,7 +130,7 @@ void WhiteTophatByGraph(ImageRef in, ImageRef out, GraphRef graph, std::int64_t 
 }
 void BlackTophatByElement(ImageRef in, ImageRef out, ElementRef element)
 {
-    OpenOrClose(in, out, ShiftsOf(*element), 1, false, Residue::black);
+    OpenOrClose(in, out, ShiftsOfElement(element), 1, false, Residue::black);
 }
 void BlackTophatByGraph(ImageRef in, ImageRef out, GraphRef graph, std::int64_t size)
 {

@@ -52,8 +52,8 @@ void WriteVolume(const ImageRef& image, std::int64_t index, const T* dense);
 
 // The offsets of an element or a graph on the image axes X, Y and Z; a
 // graph with `withOrigin` also holds (0, 0, 0) once.
-std::vector<Shift> ShiftsOf(Geometry::IStructuringElement& element);
-std::vector<Shift> ShiftsOf(Geometry::INgbGraph& graph, bool withOrigin);
+std::vector<Shift> ShiftsOf(::Quilon_::Geometry::IStructuringElement& element);
+std::vector<Shift> ShiftsOf(::Quilon_::Geometry::INgbGraph& graph, bool withOrigin);
 // The graph of the pngSquare8 or pngCubic26 neighbours (pngSquare4 or
 // pngCubic6 with `fewest`), by the dimension of the grid.
 std::vector<Shift> DefaultNeighbours(const Grid& grid, bool fewest);

@@ -4,6 +4,7 @@
 // a block of 0 and the destination's set value (255 in an 8-bit binary
 // image), or of labels, stored into the destination.
 #include "Images/Filtering/Neighbourhood.h"
+#include "Images/Operators/Pointwise.h"
 
 #include "Quilon_/Images/Segmentation/Functions.h"
 #include "Quilon_/Math/Interval.h"
@@ -63,6 +64,8 @@ Samples<C> Where(const Samples<C>& samples, Select&& selected)
 void Threshold0(ImageRef source, ImageRef destination, IntervalRef interval)
 {
     const double lower = interval->Minimum(), upper = interval->Maximum();
+    if (Pointwise::Threshold(source, destination, lower, upper))
+        return;
     Segment(source, destination, true, [&]<class C>(const Samples<C>& samples) {
         return Where(samples, [&](C v) { return lower <= v && v <= upper; });
     });
@@ -70,6 +73,8 @@ void Threshold0(ImageRef source, ImageRef destination, IntervalRef interval)
 
 void Threshold1(ImageRef source, ImageRef destination, double level)
 {
+    if (Pointwise::Threshold(source, destination, level, std::numeric_limits<double>::infinity()))
+        return;
     Segment(source, destination, true, [&]<class C>(const Samples<C>& samples) {
         return Where(samples, [&](C v) { return v >= level; });
     });
@@ -177,10 +182,44 @@ long double EntropyLevel(const ValueCounts<C>& h)
     return h.values[split];
 }
 
+// The counts of an image of 8- or 16-bit integers, from a table by value
+// rather than by sorting; the same counts as CountValues.
+bool CountValuesByTable(const ImageRef& source, ValueCounts<double>& h)
+{
+    std::vector<std::int64_t> table;
+    if (!Pointwise::CountValues(source, table))
+        return false;
+    const bool isSigned = DataTypeOf(source) == System::ntInt8 || DataTypeOf(source) == System::ntInt16;
+    const auto size = static_cast<std::int64_t>(table.size());
+    // Ascending values: for a signed type the upper half of the table (the
+    // negative values) comes first.
+    const std::int64_t first = isSigned ? -size / 2 : 0;
+    for (std::int64_t value = first; value < first + size; ++value) {
+        const std::int64_t count = table[static_cast<std::size_t>(value & (size - 1))];
+        if (count == 0)
+            continue;
+        h.values.push_back(static_cast<double>(value));
+        h.counts.push_back(static_cast<long double>(count));
+    }
+    return true;
+}
+
 template <class Level>
 void LevelThreshold(const ImageRef& source, const ImageRef& destination, const MaskRef& mask, double* found,
                     Level&& levelOf)
 {
+    ValueCounts<double> table;
+    if (!mask && CountValuesByTable(source, table)) {
+        const long double level = levelOf(table);
+        // The level is one of the (integer) values: above it means from the
+        // next integer on.
+        if (Pointwise::Threshold(source, destination, static_cast<double>(level) + 1.0,
+                                 std::numeric_limits<double>::infinity())) {
+            if (found)
+                *found = static_cast<double>(level);
+            return;
+        }
+    }
     Segment(source, destination, true, [&]<class C>(const Samples<C>& samples) {
         const long double level = levelOf(CountValues(samples, mask));
         if (found)

@@ -5,6 +5,8 @@
 #include "Quilon_/System/Raise.h"
 
 #include <algorithm>
+#include <bit>
+#include <cstring>
 #include <limits>
 #include <map>
 
@@ -91,6 +93,81 @@ void NumberRuns(Labelling& result, std::size_t count, ComponentOf componentOf)
     }
 }
 
+// The number of foreground runs in a row of bytes.
+std::size_t CountRunsOfLine(const std::uint8_t* line, std::int64_t width)
+{
+    std::size_t starts = 0;
+    std::uint8_t previous = 0;
+    for (std::int64_t x = 0; x < width; ++x) {
+        const std::uint8_t set = line[x] != 0;
+        starts += set & (previous ^ 1);
+        previous = set;
+    }
+    return starts;
+}
+
+// Bytes of zeros kept after a row of foreground bytes.
+constexpr std::size_t lineTail = 16;
+
+std::uint64_t RunLineWord(const std::uint8_t* bytes)
+{
+    std::uint64_t word;
+    std::memcpy(&word, bytes, sizeof word);
+    return word;
+}
+
+// Appends the runs of a row of 0/1 bytes followed by lineTail zeros,
+// eight bytes at a step: the first set byte of a word is its lowest
+// non-zero byte, the first unset one that of the word XOR 0x0101...
+void AppendRunsOfLine(const std::uint8_t* line, std::int64_t width, std::int64_t row, std::vector<Run>& runs)
+{
+    constexpr std::uint64_t ones = 0x0101010101010101ull;
+    std::int64_t x = 0;
+    while (x < width) {
+        const std::uint64_t set = RunLineWord(line + x);
+        if (set == 0) {
+            x += 8;
+            continue;
+        }
+        x += std::countr_zero(set) / 8;
+        if (x >= width)
+            break;
+        const std::int64_t x0 = x;
+        for (;;) {
+            const std::uint64_t unset = RunLineWord(line + x) ^ ones;
+            if (unset != 0) {
+                x += std::countr_zero(unset) / 8;
+                break;
+            }
+            x += 8;
+        }
+        runs.push_back({std::int32_t(x0), std::int32_t(x), std::int32_t(row), -1});
+    }
+}
+
+// Room for the runs of the image, from a count over every 16th row plus a
+// margin. A buffer near the real size is one the allocator can hand back,
+// already mapped, on the next call of the same size; a worst-case
+// reservation (half a row of runs per row, 130 MB for 4096 x 4096) is mapped
+// afresh on every call, and the page faults on its written part cost about
+// as much as labelling it. A low guess only costs the vector's growth.
+std::size_t EstimatedRunCount(const Triple& size, const RowFunction& rows, std::vector<std::uint8_t>& line)
+{
+    const std::int64_t width = size[0], height = size[1], depth = size[2];
+    const std::int64_t rowCount = height * depth;
+    const std::size_t worst = std::size_t((width + 1) / 2 * rowCount);
+    constexpr std::int64_t step = 16;
+    if (rowCount < 4 * step)
+        return worst;
+    std::size_t sampled = 0, counted = 0;
+    for (std::int64_t row = step / 2; row < rowCount; row += step, ++sampled) {
+        rows(row % height, row / height, line.data());
+        counted += CountRunsOfLine(line.data(), width);
+    }
+    const std::size_t estimate = counted * std::size_t(rowCount) / std::max<std::size_t>(sampled, 1);
+    return std::min(worst, estimate + estimate / 8 + std::size_t(rowCount));
+}
+
 void CheckLabellingSize(const Triple& size)
 {
     constexpr std::int64_t most = std::numeric_limits<std::int32_t>::max();
@@ -139,29 +216,19 @@ Labelling LabelRows(const Triple& size, const Connectivity& connectivity, const 
     const std::int64_t rowCount = height * depth;
     // rowStart[r] is the first run of row r; rows not yet seen start at the end.
     std::vector<std::int64_t> rowStart(std::size_t(rowCount + 1), 0);
-    std::vector<std::uint8_t> line(std::size_t(width) + 1, 0);
+    // Zeros past the row's end: a sentinel that ends the last run, and room
+    // to read the row a word at a time.
+    std::vector<std::uint8_t> line(std::size_t(width) + lineTail, 0);
     LabelForest forest;
     std::vector<Run>& runs = result.runs;
-    // Room for the most runs a row can hold, so that growing never copies;
-    // only the pages written are committed.
-    runs.reserve(std::size_t((width + 1) / 2 * rowCount));
+    runs.reserve(EstimatedRunCount(size, rows, line));
+    forest.parent.reserve(runs.capacity());
     for (std::int64_t z = 0; z < depth; ++z)
         for (std::int64_t y = 0; y < height; ++y) {
             const std::int64_t row = z * height + y;
             rowStart[std::size_t(row)] = std::int64_t(runs.size());
             rows(y, z, line.data());
-            line[std::size_t(width)] = 0; // a sentinel ends the last run
-            const std::uint8_t* p = line.data();
-            for (std::int64_t x = 0; x < width;) {
-                if (!p[x]) {
-                    ++x;
-                    continue;
-                }
-                const std::int64_t x0 = x;
-                while (p[x])
-                    ++x;
-                runs.push_back({std::int32_t(x0), std::int32_t(x), std::int32_t(row), -1});
-            }
+            AppendRunsOfLine(line.data(), width, row, runs);
             const std::size_t first = std::size_t(rowStart[std::size_t(row)]), end = runs.size();
             for (const Connectivity::RowOffset& o : connectivity.before) {
                 const std::int64_t ny = y + o.dy, nz = z + o.dz;

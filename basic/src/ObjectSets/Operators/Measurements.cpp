@@ -19,6 +19,8 @@
 // out the Z measurements, which stay available when asked for by name.
 #include "ObjectSets/Operators/Measurements.h"
 
+#include "ObjectSets/Attributes.h"
+
 #include "Quilon_/ObjectSets/AttributeDictionary.h"
 #include "Quilon_/ObjectSets/DataType.h"
 #include "Quilon_/ObjectSets/Globals.h"
@@ -32,7 +34,9 @@
 #include "Quilon_/System/Raise.h"
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
+#include <cstring>
 #include <numbers>
 
 namespace Quilon_::Basic::ObjectSets::Operators {
@@ -87,11 +91,52 @@ std::wstring MeasurementAttributeName(const wchar_t* operatorName, const wchar_t
     return measurement;
 }
 
+namespace {
+
+const System::Type& DataTypeOfColumn(ResultColumn::Kind kind)
+{
+    switch (kind) {
+    case ResultColumn::int32Cells:
+        return QOS::DataTypeOf<std::int32_t>();
+    case ResultColumn::floatCells:
+        return QOS::DataTypeOf<float>();
+    case ResultColumn::doubleCells:
+        break;
+    }
+    return QOS::DataTypeOf<double>();
+}
+
+// A column of this library takes all its cells in one call; false for a
+// column made by another library's factory, which gets them one by one.
+bool WriteColumnAtOnce(QOS::IObjectSet& set, const std::vector<QOS::Key>& keys, const ResultColumn& column)
+{
+    System::Ref<QOS::IAttribute> attribute = set.AddAttribute(column.name, DataTypeOfColumn(column.kind));
+    auto* numbers = dynamic_cast<NumberColumnHolder*>(attribute.Get());
+    if (!numbers) {
+        set.RemoveAttribute(column.name);
+        return false;
+    }
+    if (column.kind != ResultColumn::int32Cells) {
+        numbers->StoreNumbers(keys, column.values, column.unset);
+        return true;
+    }
+    std::vector<double> rounded;
+    rounded.reserve(column.values.size());
+    for (const double value : column.values)
+        rounded.push_back(double(std::int32_t(std::llround(value))));
+    numbers->StoreNumbers(keys, rounded, column.unset);
+    return true;
+}
+
+} // namespace
+
 void WriteColumns(QOS::IObjectSet& set, const std::vector<QOS::Key>& keys,
                   const std::vector<ResultColumn>& columns)
 {
     for (const ResultColumn& column : columns) {
         set.RemoveAttribute(column.name);
+        if (WriteColumnAtOnce(set, keys, column))
+            continue;
         switch (column.kind) {
         case ResultColumn::int32Cells: {
             System::Pointer<QOS::IInt32Attribute, 1> cells =
@@ -179,36 +224,130 @@ std::pair<double, double> ExtremeEigenvalues(double a, double b, double c, doubl
     return {smallest, largest};
 }
 
-// The moments and box of one mask, in one pass over its bytes.
+// The sums of one row of a mask: set pixels, their x and x^2, the first
+// and last set x, the runs (two faces along X each), and the set pixels
+// whose neighbour above or below (in front or behind) is unset, a missing
+// row counting as unset.
+struct MaskRowSums {
+    std::int64_t count = 0, x = 0, xx = 0, runs = 0, open = 0, openInDepth = 0;
+    std::int64_t first = 0, last = -1;
+};
+
+// Eight mask bytes as one word, byte i of the row in bits 8i to 8i + 7;
+// bytes past the row's end read as 0.
+std::uint64_t MaskWord(const std::uint8_t* bytes, std::int64_t left)
+{
+    std::uint64_t word = 0;
+    if (left >= 8) {
+        std::memcpy(&word, bytes, 8);
+        return word;
+    }
+    for (std::int64_t i = 0; i < left; ++i)
+        word |= std::uint64_t(bytes[i]) << (8 * i);
+    return word;
+}
+
+// A mask byte is 0 or 1, so a word of eight is summed by multiplication:
+// the top byte of word * K collects sum(b_i * k_(7-i)), and no lower byte
+// carries into it (each partial sum stays under 256).
+constexpr std::uint64_t maskIndexWeights = 0x0001020304050607ull;  // k_(7-i) = i
+constexpr std::uint64_t maskSquareWeights = 0x0001040910192431ull; // k_(7-i) = i^2
+constexpr std::uint64_t maskLowBits = 0x0101010101010101ull;
+
+// The set bytes of a word of 0/1 bytes: the top byte of word * 0x0101...
+// sums them, without the population-count instruction that the baseline
+// instruction set lacks.
+std::int64_t SetMaskBytes(std::uint64_t word)
+{
+    return std::int64_t((word * maskLowBits) >> 56);
+}
+
+MaskRowSums SumMaskRow(const std::uint8_t* row, const std::uint8_t* above, const std::uint8_t* below,
+                       const std::uint8_t* front, const std::uint8_t* back, std::int64_t width)
+{
+    MaskRowSums r;
+    std::uint64_t carry = 0; // the last byte of the previous word
+    for (std::int64_t x0 = 0; x0 < width; x0 += 8) {
+        const std::int64_t left = width - x0;
+        const std::uint64_t word = MaskWord(row + x0, left);
+        if (word == 0) {
+            carry = 0;
+            continue;
+        }
+        const std::int64_t n = SetMaskBytes(word);
+        const std::int64_t s1 = std::int64_t((word * maskIndexWeights) >> 56);
+        const std::int64_t s2 = std::int64_t((word * maskSquareWeights) >> 56);
+        r.count += n;
+        r.x += x0 * n + s1;
+        r.xx += x0 * x0 * n + 2 * x0 * s1 + s2;
+        r.runs += SetMaskBytes(word & ~((word << 8) | carry));
+        carry = word >> 56;
+        auto open = [&](const std::uint8_t* other) {
+            return other ? SetMaskBytes(word & ~MaskWord(other + x0, left)) : n;
+        };
+        r.open += open(above) + open(below);
+        r.openInDepth += open(front) + open(back);
+        if (r.last < 0)
+            r.first = x0 + std::countr_zero(word) / 8;
+        r.last = x0 + (63 - std::countl_zero(word)) / 8;
+    }
+    return r;
+}
+
+// The moments, box and faces of one mask, in one pass over its rows. The
+// sums over a row are integers, taken without a branch per pixel, and
+// folded into the moments once per row; every sum is exact, so the order
+// of summation does not show in the results.
 struct ShapeSums {
     std::int64_t count = 0;
     Basic::Geometry::Triple low{}, high{};
     double sx = 0, sy = 0, sz = 0, sxx = 0, syy = 0, szz = 0, sxy = 0, sxz = 0, syz = 0;
+    // Pixel faces between the shape and the rest, along X and Y, and along Z.
+    std::int64_t planeFaces = 0, depthFaces = 0;
 
     explicit ShapeSums(const BinaryMask& mask)
     {
-        const std::uint8_t* bit = mask.bits.data();
-        for (std::int64_t z = 0; z < mask.size[2]; ++z)
-            for (std::int64_t y = 0; y < mask.size[1]; ++y)
-                for (std::int64_t x = 0; x < mask.size[0]; ++x, ++bit) {
-                    if (!*bit)
-                        continue;
-                    const Basic::Geometry::Triple p{x, y, z};
-                    for (int axis = 0; axis < 3; ++axis) {
-                        low[axis] = count ? std::min(low[axis], p[axis]) : p[axis];
-                        high[axis] = count ? std::max(high[axis], p[axis]) : p[axis];
-                    }
-                    ++count;
-                    const double fx = double(x), fy = double(y), fz = double(z);
-                    sx += fx, sy += fy, sz += fz;
-                    sxx += fx * fx, syy += fy * fy, szz += fz * fz;
-                    sxy += fx * fy, sxz += fx * fz, syz += fy * fz;
+        const std::int64_t width = mask.size[0], height = mask.size[1], depth = mask.size[2];
+        const std::uint8_t* bits = mask.bits.data();
+        std::int64_t lowX = width, highX = -1;
+        for (std::int64_t z = 0; z < depth; ++z)
+            for (std::int64_t y = 0; y < height; ++y) {
+                const std::uint8_t* row = bits + (z * height + y) * width;
+                const std::uint8_t* above = y > 0 ? row - width : nullptr;
+                const std::uint8_t* below = y + 1 < height ? row + width : nullptr;
+                const std::uint8_t* front = z > 0 ? row - height * width : nullptr;
+                const std::uint8_t* back = z + 1 < depth ? row + height * width : nullptr;
+                const MaskRowSums r = SumMaskRow(row, above, below, front, back, width);
+                if (r.count == 0)
+                    continue;
+                const double fy = double(y), fz = double(z), n = double(r.count), x1 = double(r.x),
+                             x2 = double(r.xx);
+                if (count == 0) {
+                    low[1] = high[1] = y;
+                    low[2] = z;
                 }
+                high[1] = std::max(high[1], y);
+                low[1] = std::min(low[1], y);
+                high[2] = z;
+                lowX = std::min(lowX, r.first);
+                highX = std::max(highX, r.last);
+                count += r.count;
+                sx += x1, sy += n * fy, sz += n * fz;
+                sxx += x2, syy += n * fy * fy, szz += n * fz * fz;
+                sxy += fy * x1, sxz += fz * x1, syz += n * fy * fz;
+                planeFaces += 2 * r.runs + r.open;
+                depthFaces += r.openInDepth;
+            }
+        low[0] = lowX;
+        high[0] = highX;
         for (int axis = 0; axis < 3; ++axis) {
             low[axis] += mask.origin[axis];
             high[axis] += mask.origin[axis];
         }
     }
+
+    // Faces of the crack length (2-D) or of the surface (3-D).
+    std::int64_t Faces(int dimension) const { return dimension == 3 ? planeFaces + depthFaces : planeFaces; }
 
     double Elongation(int dimension) const
     {
@@ -237,7 +376,7 @@ double ShapeMeasurement(QM::StandardShapeMeasurementEnum which, const ShapeSums&
     case QM::ssmArea:
         return n;
     case QM::ssmPerimeter:
-        return double(mask.FaceCount(dimension == 3));
+        return double(sums.Faces(dimension));
     case QM::ssmCentroidX:
         return double(mask.origin[0]) + sums.sx / n;
     case QM::ssmCentroidY:

@@ -89,6 +89,40 @@ public:
     virtual void ReadPage(System::Ref<IImage> image) = 0;
 };
 
+// A reader of files stored in tiles (scans of slides, large mosaics), which
+// reads a part of the image and decodes only the tiles that part touches.
+// Tiles are counted from the top left, X first; those of the last column
+// and row are cut by the image's edges. A file stored in bands of whole
+// rows reads as tiles as wide as the image. A reader that is also
+// multi-page reads the tiles of its current page.
+//
+//   Ref<ITiledBitmapReader> tiled = reader;     // the TIFF reader is one
+//   tiled->Open(L"slide.tif");
+//   tiled->TileCount();                         // 40 x 30 tiles of 512 x 512
+//   tiled->ReadRegion(Coordinates::New(1000, 2000, aXY),
+//                     Coordinates::New(256, 256, aXY), image);
+class QUILON_API ITiledBitmapReader : public virtual IBitmapReader {
+    QUILON_INTERFACE(ITiledBitmapReader)
+public:
+    // 1. Whether the file itself is stored in tiles.
+    virtual bool IsTiled() = 0;
+    // 2. The size of a whole tile: X, Y.
+    virtual System::Ref<Quilon_::Geometry::ICoordinates> TileSize() = 0;
+    // 3. The number of tiles along X and Y.
+    virtual System::Ref<Quilon_::Geometry::ICoordinates> TileCount() = 0;
+    // 4. The tile (X, Y) that holds the pixel at `location`; raises when
+    // the location is outside the image.
+    virtual System::Ref<Quilon_::Geometry::ICoordinates>
+    TileOf(System::Ref<Quilon_::Geometry::ICoordinates> location) = 0;
+    // 5. Reads the tile (x, y) into `image`, reshaped to the tile's size
+    // (and B for several bands); raises for a tile outside TileCount().
+    virtual void ReadTile(std::int64_t x, std::int64_t y, System::Ref<IImage> image) = 0;
+    // 6. Reads the rectangle of `size` at `origin` (X, Y) into `image`,
+    // reshaped to it; raises unless the rectangle lies inside the image.
+    virtual void ReadRegion(System::Ref<Quilon_::Geometry::ICoordinates> origin,
+                            System::Ref<Quilon_::Geometry::ICoordinates> size, System::Ref<IImage> image) = 0;
+};
+
 class QUILON_API IBitmapReaderCollection
     : public virtual System::Collections::Template::ICollection<IBitmapReader> {
     QUILON_INTERFACE(IBitmapReaderCollection)

@@ -1,0 +1,263 @@
+// The fast paths of the filters: the choice of whether one applies, the
+// border laid out around each row, and rows banded over the pool. The
+// vectorised work is in FilterSimd.cpp.
+#include "Images/Filtering/FastFilters.h"
+
+#include "Images/Filtering/FilterKernels.h"
+#include "System/Threading/Parallel.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <limits>
+#include <set>
+#include <utility>
+
+namespace Quilon_::Basic::Images::Operators {
+
+namespace {
+
+// Whether the border constant is a sample of T: an 8-bit row cannot hold
+// 0.5 or 300, which the plain filter computes with.
+template <class T>
+bool FilterHoldsConstant(const BorderRule& border)
+{
+    if (border.type != Quilon_::Images::ptConstant)
+        return true;
+    if constexpr (std::is_integral_v<T>)
+        return border.value >= double(std::numeric_limits<T>::lowest()) &&
+               border.value <= double(std::numeric_limits<T>::max()) &&
+               std::nearbyint(border.value) == border.value;
+    else
+        return static_cast<double>(static_cast<T>(border.value)) == border.value;
+}
+
+// The bytes a view spans, for telling whether two views share memory.
+template <class T>
+std::pair<const char*, const char*> FilterViewSpan(const BitmapView<T>& view)
+{
+    const char* first = reinterpret_cast<const char*>(view.data);
+    const char* last = first + sizeof(T);
+    for (int slot = 0; slot < maxViewAxes; ++slot) {
+        const std::int64_t reach = (view.size[slot] - 1) * view.stride[slot] * std::int64_t(sizeof(T));
+        (reach < 0 ? first : last) += reach;
+    }
+    return {first, last};
+}
+
+// Two views the fast paths can run on: the same extent, rows dense in
+// memory, and no sample of the output also in the input (the output's
+// rows are written while later rows of the input are still to be read).
+template <class T>
+bool FilterViewsSuit(const BitmapView<T>& in, const BitmapView<T>& out)
+{
+    if (in.size != out.size || in.stride[slotX] != 1 || out.stride[slotX] != 1 || in.SampleCount() == 0)
+        return false;
+    const auto [inFirst, inLast] = FilterViewSpan(in);
+    const auto [outFirst, outLast] = FilterViewSpan(out);
+    return inLast <= outFirst || outLast <= inFirst;
+}
+
+// The plane (X-Y) of index `plane` in Z, T, B order.
+template <class T>
+T* FilterPlane(const BitmapView<T>& view, std::int64_t plane)
+{
+    const std::int64_t nz = view.size[slotZ], nt = view.size[slotT];
+    return view.data + plane % nz * view.stride[slotZ] + plane / nz % nt * view.stride[slotT] +
+           plane / (nz * nt) * view.stride[slotB];
+}
+
+// Starts bringing row `y` of a plane into the cache, if the plane has it:
+// the row the next output row adds, while this one is worked on. Rows a
+// page or more apart defeat the processor's own prefetching at each row's
+// start, which costs the short kernels a quarter of their time.
+template <class T>
+void PrefetchFilterRow(const T* plane, std::int64_t strideY, std::int64_t y, std::int64_t ny, std::int64_t nx)
+{
+    if (y >= ny)
+        return;
+    const T* row = plane + y * strideY;
+    for (std::int64_t x = 0; x < nx; x += 64 / static_cast<std::int64_t>(sizeof(T)))
+        __builtin_prefetch(row + x);
+}
+
+// Calls row(inputPlane, outputRow, y) for every row y of every plane, rows
+// banded over the pool; each band makes its own `row = makeRow()`, which
+// holds the band's buffers.
+template <class T, class MakeRow>
+void ForEachFilterRow(const BitmapView<T>& in, const BitmapView<T>& out, std::int64_t costPerSample,
+                      MakeRow&& makeRow)
+{
+    const std::int64_t nx = in.size[slotX], ny = in.size[slotY];
+    const std::int64_t planes = in.size[slotZ] * in.size[slotT] * in.size[slotB];
+    Threading::ParallelBands(planes * ny, nx * costPerSample, [&](std::int64_t first, std::int64_t last) {
+        auto row = makeRow();
+        for (std::int64_t item = first; item < last; ++item) {
+            const std::int64_t plane = item / ny, y = item % ny;
+            row(FilterPlane(in, plane), FilterPlane(out, plane) + y * out.stride[slotY], y);
+        }
+    });
+}
+
+// Fills the `radius` samples on each side of line[0, n) by the border rule.
+template <class T>
+void PadFilterLine(T* line, std::int64_t n, std::int64_t radius, const BorderRule& border)
+{
+    const T constant = static_cast<T>(border.value);
+    for (std::int64_t i = 1; i <= radius; ++i) {
+        const std::int64_t before = SourceIndex(-i, n, border), after = SourceIndex(n - 1 + i, n, border);
+        line[-i] = before < 0 ? constant : line[before];
+        line[n - 1 + i] = after < 0 ? constant : line[after];
+    }
+}
+
+// ---- Separable smoothing ---------------------------------------------------------
+
+// The weights of a pass from the middle outwards, in single precision.
+std::vector<float> HalfFilterWeights(const std::vector<double>& weights)
+{
+    if (weights.empty())
+        return {1.0f};
+    const std::size_t middle = weights.size() / 2;
+    return std::vector<float>(weights.begin() + static_cast<std::ptrdiff_t>(middle), weights.end());
+}
+
+bool IsSymmetricFilter(const std::vector<double>& weights)
+{
+    if (weights.size() % 2 == 0)
+        return weights.empty();
+    for (std::size_t i = 0; i < weights.size() / 2; ++i)
+        if (weights[i] != weights[weights.size() - 1 - i])
+            return false;
+    return true;
+}
+
+// Columns first, from the samples as they are, into one row of floats;
+// then along that row into the output.
+template <class T>
+void SmoothPlanes(const BitmapView<T>& in, const BitmapView<T>& out, const std::vector<float>& wx,
+                  const std::vector<float>& wy, const BorderRule& border)
+{
+    const std::int64_t nx = in.size[slotX], ny = in.size[slotY];
+    const auto rx = static_cast<std::int64_t>(wx.size()) - 1, ry = static_cast<std::int64_t>(wy.size()) - 1;
+    const std::int64_t taps = 2 * (rx + ry) + 2;
+    ForEachFilterRow(in, out, taps, [&] {
+        return [&, column = std::vector<float>(static_cast<std::size_t>(nx + 2 * rx)),
+                constant = std::vector<T>(static_cast<std::size_t>(nx), static_cast<T>(border.value)),
+                rows = std::vector<const T*>(static_cast<std::size_t>(2 * ry + 1))](const T* plane, T* output,
+                                                                                    std::int64_t y) mutable {
+            for (std::int64_t k = -ry; k <= ry; ++k) {
+                const std::int64_t source = SourceIndex(y + k, ny, border);
+                rows[static_cast<std::size_t>(k + ry)] =
+                    source < 0 ? constant.data() : plane + source * in.stride[slotY];
+            }
+            PrefetchFilterRow(plane, in.stride[slotY], y + ry + 1, ny, nx);
+            float* centre = column.data() + rx;
+            GaussianColumns(rows.data(), wy.data(), ry, nx, centre);
+            PadFilterLine(centre, nx, rx, border);
+            GaussianRow(column.data(), wx.data(), rx, nx, output);
+        };
+    });
+}
+
+// ---- Median ---------------------------------------------------------------------
+
+// The side of the square window the points make in X and Y (3 or 5), or 0.
+std::int64_t SquareWindowSide(const std::vector<Point>& points)
+{
+    const std::int64_t side = points.size() == 9 ? 3 : points.size() == 25 ? 5 : 0;
+    std::set<std::pair<std::int64_t, std::int64_t>> offsets;
+    for (const Point& point : points) {
+        const Extent& o = point.offset;
+        if (o[slotZ] || o[slotT] || o[slotB] ||
+            std::max(std::llabs(o[slotX]), std::llabs(o[slotY])) > side / 2)
+            return 0;
+        offsets.emplace(o[slotX], o[slotY]);
+    }
+    return offsets.size() == points.size() ? side : 0;
+}
+
+// The columns of the window are sorted straight from the input rows, then
+// the sorted columns outside the row are laid out by the border rule: a
+// column read through the rule sorts to the same ranks.
+void MedianPlanes(const BitmapView<std::uint8_t>& in, const BitmapView<std::uint8_t>& out, std::int64_t side,
+                  const BorderRule& border)
+{
+    const std::int64_t nx = in.size[slotX], ny = in.size[slotY], r = side / 2;
+    // Rows of sorted columns a few cache lines more than a multiple of 4 KiB
+    // apart (image rows often are such a multiple): a load from one row
+    // then never waits on a store to another that the processor takes for
+    // the same address.
+    const auto width = (static_cast<std::size_t>(nx + 2 * r) + 63) / 64 * 64 + 5 * 64;
+    ForEachFilterRow(in, out, side * side, [&] {
+        return [&,
+                constant = std::vector<std::uint8_t>(static_cast<std::size_t>(nx),
+                                                     static_cast<std::uint8_t>(border.value)),
+                sorted = std::vector<std::uint8_t>(width * static_cast<std::size_t>(side))](
+                   const std::uint8_t* plane, std::uint8_t* output, std::int64_t y) mutable {
+            const std::uint8_t* rows[5];
+            std::uint8_t* ranks[5];
+            std::uint8_t* inside[5];
+            for (std::int64_t k = 0; k < side; ++k) {
+                const std::int64_t source = SourceIndex(y + k - r, ny, border);
+                rows[k] = source < 0 ? constant.data() : plane + source * in.stride[slotY];
+                ranks[k] = sorted.data() + static_cast<std::size_t>(k) * width;
+                inside[k] = ranks[k] + r;
+            }
+            const std::uint8_t* ahead = y + r + 1 < ny ? plane + (y + r + 1) * in.stride[slotY] : nullptr;
+            SortColumns(rows, side, nx, inside, ahead);
+            for (std::int64_t k = 0; k < side; ++k)
+                PadFilterLine(inside[k], nx, r, border);
+            MedianOfSortedColumns(ranks, side, nx, output);
+        };
+    });
+}
+
+} // namespace
+
+bool SymmetricSeparableFast(const ImageRef& source, const ImageRef& destination,
+                            const std::vector<std::vector<double>>& weightsBySlot, const BorderRule& border)
+{
+    const System::NumericTypeEnum type = DataTypeOf(source);
+    if ((type != System::ntUInt8 && type != System::ntFloat) || DataTypeOf(destination) != type)
+        return false;
+    const std::vector<int> slots = SpatialSlots(source);
+    if (slots.empty() || slots[0] != slotX || slots.size() != weightsBySlot.size())
+        return false;
+    for (const std::vector<double>& weights : weightsBySlot)
+        if (!IsSymmetricFilter(weights))
+            return false;
+    const std::vector<float> wx = HalfFilterWeights(weightsBySlot[0]);
+    const std::vector<float> wy =
+        HalfFilterWeights(slots.size() > 1 && slots[1] == slotY ? weightsBySlot[1] : std::vector<double>{});
+    const bool passAlongZ = slots.back() == slotZ && !weightsBySlot.back().empty();
+    const auto run = [&]<class T>(std::type_identity<T>) {
+        const BitmapView<T> in = ViewOf<T>(source), out = ViewOf<T>(destination);
+        // A pass along Z is left to the plain filter; a single plane along
+        // Z is its own neighbour (but for a constant border): no pass.
+        if (passAlongZ && (in.size[slotZ] > 1 || border.type == Quilon_::Images::ptConstant))
+            return false;
+        if (!FilterHoldsConstant<T>(border) || !FilterViewsSuit(in, out))
+            return false;
+        SmoothPlanes(in, out, wx, wy, border);
+        return true;
+    };
+    return type == System::ntUInt8 ? run(std::type_identity<std::uint8_t>{})
+                                   : run(std::type_identity<float>{});
+}
+
+bool MedianFast(const ImageRef& source, const ImageRef& destination, const std::vector<Point>& points,
+                const BorderRule& border)
+{
+    if (DataTypeOf(source) != System::ntUInt8 || DataTypeOf(destination) != System::ntUInt8)
+        return false;
+    const std::int64_t side = SquareWindowSide(points);
+    if (side == 0 || !FilterHoldsConstant<std::uint8_t>(border))
+        return false;
+    const BitmapView<std::uint8_t> in = ViewOf<std::uint8_t>(source), out = ViewOf<std::uint8_t>(destination);
+    if (!FilterViewsSuit(in, out))
+        return false;
+    MedianPlanes(in, out, side, border);
+    return true;
+}
+
+} // namespace Quilon_::Basic::Images::Operators

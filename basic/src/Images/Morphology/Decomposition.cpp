@@ -1,0 +1,172 @@
+// Structuring elements as row spans for the fast erosion and dilation.
+#include "Images/Morphology/Decomposition.h"
+
+#include <algorithm>
+#include <array>
+#include <cassert>
+#include <cstdlib>
+#include <map>
+#include <utility>
+
+namespace Quilon_::Basic::Images::Morphology {
+
+namespace {
+
+// The X offsets of every row of the element, sorted, rows in order of
+// (dz, dy).
+using RowKey = std::pair<std::int64_t, std::int64_t>;
+using RowsOfElement = std::map<RowKey, std::vector<std::int64_t>>;
+
+RowsOfElement RowsOfDecomposedElement(std::span<const Shift> shifts)
+{
+    RowsOfElement rows;
+    for (const Shift& s : shifts)
+        rows[{s.dz, s.dy}].push_back(s.dx);
+    for (auto& [row, xs] : rows) {
+        std::sort(xs.begin(), xs.end());
+        xs.erase(std::unique(xs.begin(), xs.end()), xs.end());
+    }
+    return rows;
+}
+
+// Calls visit(from, to) for every run of consecutive offsets of a row.
+template <class Visit>
+void ForEachRun(const std::vector<std::int64_t>& xs, Visit&& visit)
+{
+    for (std::size_t i = 0; i < xs.size();) {
+        std::size_t j = i + 1;
+        while (j < xs.size() && xs[j] == xs[j - 1] + 1)
+            ++j;
+        visit(xs[i], xs[j - 1]);
+        i = j;
+    }
+}
+
+bool HoldsSpan(const std::vector<std::int64_t>& xs, std::int64_t from, std::int64_t to)
+{
+    const auto first = std::lower_bound(xs.begin(), xs.end(), from);
+    return first != xs.end() && xs.end() - first > to - from && first[to - from] == to;
+}
+
+bool HasAnyIn(const std::vector<std::int64_t>& xs, std::int64_t from, std::int64_t to)
+{
+    const auto first = std::lower_bound(xs.begin(), xs.end(), from);
+    return first != xs.end() && *first <= to;
+}
+
+// Whether a span of these rows is worth a buffer of its own: one sample
+// has nothing to fold along X, and a short span of a single row costs no
+// more read directly than copied and folded.
+bool WorthABuffer(std::size_t rowCount, std::int64_t length)
+{
+    return length > 1 && (rowCount > 1 || length > shortSpan + 1);
+}
+
+void AddGroup(Decomposition& plan, SpanGroup group)
+{
+    plan.padding = std::max({plan.padding, std::abs(group.from), std::abs(group.to)});
+    plan.widestFold = std::max(plan.widestFold, group.rows.size());
+    plan.groups.push_back(std::move(group));
+}
+
+// Whether the plan reads every offset of `shifts` and no other.
+[[maybe_unused]] bool CoversExactly(const Decomposition& plan, std::span<const Shift> shifts)
+{
+    const auto ordered = [](auto&& list) {
+        std::vector<std::array<std::int64_t, 3>> keys;
+        for (const Shift& s : list)
+            keys.push_back({s.dz, s.dy, s.dx});
+        std::sort(keys.begin(), keys.end());
+        keys.erase(std::unique(keys.begin(), keys.end()), keys.end());
+        return keys;
+    };
+    return ordered(Recomposed(plan)) == ordered(shifts);
+}
+
+} // namespace
+
+// Rows sharing a span are folded together; a group also takes in every
+// other row that holds its whole span and still has offsets to cover in
+// it, since a minimum may read an offset twice: the disk of radius 2
+// becomes the 3 x 3 square and four single offsets. Groups of the most
+// rows go first, so that they take in the most.
+Decomposition Decompose(std::span<const Shift> shifts)
+{
+    const RowsOfElement rows = RowsOfDecomposedElement(shifts);
+    std::vector<SpanGroup> candidates;
+    for (const auto& [row, xs] : rows)
+        ForEachRun(xs, [&](std::int64_t from, std::int64_t to) {
+            auto same = std::find_if(candidates.begin(), candidates.end(),
+                                     [&](const SpanGroup& g) { return g.from == from && g.to == to; });
+            if (same == candidates.end())
+                same = candidates.insert(candidates.end(), SpanGroup{from, to, {}});
+            same->rows.push_back({row.second, row.first});
+        });
+    std::stable_sort(candidates.begin(), candidates.end(), [](const SpanGroup& a, const SpanGroup& b) {
+        return a.rows.size() != b.rows.size() ? a.rows.size() > b.rows.size() : a.Length() > b.Length();
+    });
+
+    Decomposition plan;
+    RowsOfElement uncovered = rows;
+    for (const SpanGroup& candidate : candidates) {
+        if (!WorthABuffer(candidate.rows.size(), candidate.Length()))
+            continue;
+        SpanGroup group{candidate.from, candidate.to, {}};
+        for (const auto& [row, xs] : rows)
+            if (HoldsSpan(xs, group.from, group.to) && HasAnyIn(uncovered[row], group.from, group.to))
+                group.rows.push_back({row.second, row.first});
+        if (!WorthABuffer(group.rows.size(), group.Length()))
+            continue;
+        for (const RowOffset& row : group.rows) {
+            std::vector<std::int64_t>& left = uncovered[{row.dz, row.dy}];
+            left.erase(std::lower_bound(left.begin(), left.end(), group.from),
+                       std::upper_bound(left.begin(), left.end(), group.to));
+        }
+        AddGroup(plan, std::move(group));
+    }
+    // What no group covers: short runs are read directly, long ones get a
+    // buffer of their own.
+    for (const auto& [row, xs] : uncovered)
+        ForEachRun(xs, [&](std::int64_t from, std::int64_t to) {
+            if (WorthABuffer(1, to - from + 1))
+                AddGroup(plan, SpanGroup{from, to, {{row.second, row.first}}});
+            else
+                for (std::int64_t dx = from; dx <= to; ++dx)
+                    plan.points.push_back({dx, row.second, row.first});
+        });
+    plan.widestFold = std::max({plan.widestFold, plan.points.size(), std::size_t(shortSpan)});
+    return plan;
+}
+
+std::vector<Shift> Recomposed(const Decomposition& plan)
+{
+    std::vector<Shift> shifts = plan.points;
+    for (const SpanGroup& group : plan.groups)
+        for (const RowOffset& row : group.rows)
+            for (std::int64_t dx = group.from; dx <= group.to; ++dx)
+                shifts.push_back({dx, row.dy, row.dz});
+    return shifts;
+}
+
+std::shared_ptr<const Decomposition> DecompositionOf(std::span<const Shift> shifts)
+{
+    struct Entry {
+        std::vector<Shift> shifts;
+        std::shared_ptr<const Decomposition> plan;
+    };
+    // Open and close ask for an element and its reflection in turn; a few
+    // entries keep both, and those of a caller alternating two elements.
+    thread_local std::array<Entry, 4> cache;
+    thread_local std::size_t next = 0;
+    for (Entry& entry : cache)
+        if (entry.plan && std::equal(entry.shifts.begin(), entry.shifts.end(), shifts.begin(), shifts.end()))
+            return entry.plan;
+    Entry& entry = cache[next];
+    next = (next + 1) % cache.size();
+    entry.shifts.assign(shifts.begin(), shifts.end());
+    entry.plan = std::make_shared<const Decomposition>(Decompose(shifts));
+    assert(CoversExactly(*entry.plan, shifts));
+    return entry.plan;
+}
+
+} // namespace Quilon_::Basic::Images::Morphology
