@@ -31,19 +31,6 @@ bool FilterHoldsConstant(const BorderRule& border)
         return static_cast<double>(static_cast<T>(border.value)) == border.value;
 }
 
-// The bytes a view spans, for telling whether two views share memory.
-template <class T>
-std::pair<const char*, const char*> FilterViewSpan(const BitmapView<T>& view)
-{
-    const char* first = reinterpret_cast<const char*>(view.data);
-    const char* last = first + sizeof(T);
-    for (int slot = 0; slot < maxViewAxes; ++slot) {
-        const std::int64_t reach = (view.size[slot] - 1) * view.stride[slot] * std::int64_t(sizeof(T));
-        (reach < 0 ? first : last) += reach;
-    }
-    return {first, last};
-}
-
 // Two views the fast paths can run on: the same extent, rows dense in
 // memory, and no sample of the output also in the input (the output's
 // rows are written while later rows of the input are still to be read).
@@ -52,9 +39,7 @@ bool FilterViewsSuit(const BitmapView<T>& in, const BitmapView<T>& out)
 {
     if (in.size != out.size || in.stride[slotX] != 1 || out.stride[slotX] != 1 || in.SampleCount() == 0)
         return false;
-    const auto [inFirst, inLast] = FilterViewSpan(in);
-    const auto [outFirst, outLast] = FilterViewSpan(out);
-    return inLast <= outFirst || outLast <= inFirst;
+    return !ViewsOverlap(in, out);
 }
 
 // The plane (X-Y) of index `plane` in Z, T, B order.

@@ -23,6 +23,7 @@ using Operators::slotT;
 using Operators::slotX;
 using Operators::slotY;
 using Operators::slotZ;
+using Operators::ViewsOverlap;
 
 // One volume of samples: X adjacent, rows and planes at any stride.
 template <class T>
@@ -209,27 +210,6 @@ void RunErosionPass(const Grid& grid, RowVolume<const T> in, RowVolume<T> out, c
     Threading::ParallelBands(grid.ny * grid.nz, cost, [&](std::int64_t firstRow, std::int64_t lastRow) {
         FoldRowRange(grid, in, out, plan, maximum, firstRow, lastRow);
     });
-}
-
-// The lowest and the highest byte address a view reaches.
-template <class T>
-std::pair<const char*, const char*> ViewByteRange(const BitmapView<T>& view)
-{
-    const char* low = reinterpret_cast<const char*>(view.data);
-    const char* high = low + sizeof(T);
-    for (int slot = 0; slot < maxViewAxes; ++slot) {
-        const std::int64_t reach = (view.size[slot] - 1) * view.stride[slot] * std::int64_t(sizeof(T));
-        (reach < 0 ? low : high) += reach;
-    }
-    return {low, high};
-}
-
-template <class T>
-bool ViewsOverlap(const BitmapView<T>& a, const BitmapView<T>& b)
-{
-    const auto [aLow, aHigh] = ViewByteRange(a);
-    const auto [bLow, bHigh] = ViewByteRange(b);
-    return aLow < bHigh && bLow < aHigh;
 }
 
 template <class T>

@@ -35,6 +35,7 @@
 #include <cstdint>
 #include <limits>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 namespace Quilon_::Basic::Images::Operators {
@@ -126,6 +127,26 @@ void ForEachVolume(const BitmapView<T>& view, Function&& function)
     for (std::int64_t b = 0; b < view.size[slotB]; ++b)
         for (std::int64_t t = 0; t < view.size[slotT]; ++t)
             function(Slice(Band(view, b), slotT, t), index++);
+}
+
+// Whether two views reach a common byte (compared by the byte ranges they
+// span): a kernel that writes rows while later rows are still to be read
+// needs its output apart from its input.
+template <class T>
+bool ViewsOverlap(const BitmapView<T>& a, const BitmapView<T>& b) noexcept
+{
+    const auto range = [](const BitmapView<T>& view) {
+        const char* low = reinterpret_cast<const char*>(view.data);
+        const char* high = low + sizeof(T);
+        for (int slot = 0; slot < maxViewAxes; ++slot) {
+            const std::int64_t reach = (view.size[slot] - 1) * view.stride[slot] * std::int64_t(sizeof(T));
+            (reach < 0 ? low : high) += reach;
+        }
+        return std::pair(low, high);
+    };
+    const auto [aLow, aHigh] = range(a);
+    const auto [bLow, bHigh] = range(b);
+    return aLow < bHigh && bLow < aHigh;
 }
 
 // One line of samples, `step` apart.
