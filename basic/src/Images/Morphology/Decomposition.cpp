@@ -94,14 +94,18 @@ Decomposition Decompose(std::span<const Shift> shifts)
 {
     const RowsOfElement rows = RowsOfDecomposedElement(shifts);
     std::vector<SpanGroup> candidates;
-    for (const auto& [row, xs] : rows)
-        ForEachRun(xs, [&](std::int64_t from, std::int64_t to) {
+    // Plain names, not structured bindings: lambdas capture them (C++20
+    // allows capturing a binding, not every compiler does yet).
+    for (const auto& entry : rows) {
+        const auto& row = entry.first;
+        ForEachRun(entry.second, [&](std::int64_t from, std::int64_t to) {
             auto same = std::find_if(candidates.begin(), candidates.end(),
                                      [&](const SpanGroup& g) { return g.from == from && g.to == to; });
             if (same == candidates.end())
                 same = candidates.insert(candidates.end(), SpanGroup{from, to, {}});
             same->rows.push_back({row.second, row.first});
         });
+    }
     std::stable_sort(candidates.begin(), candidates.end(), [](const SpanGroup& a, const SpanGroup& b) {
         return a.rows.size() != b.rows.size() ? a.rows.size() > b.rows.size() : a.Length() > b.Length();
     });
@@ -126,14 +130,16 @@ Decomposition Decompose(std::span<const Shift> shifts)
     }
     // What no group covers: short runs are read directly, long ones get a
     // buffer of their own.
-    for (const auto& [row, xs] : uncovered)
-        ForEachRun(xs, [&](std::int64_t from, std::int64_t to) {
+    for (const auto& entry : uncovered) {
+        const auto& row = entry.first;
+        ForEachRun(entry.second, [&](std::int64_t from, std::int64_t to) {
             if (WorthABuffer(1, to - from + 1))
                 AddGroup(plan, SpanGroup{from, to, {{row.second, row.first}}});
             else
                 for (std::int64_t dx = from; dx <= to; ++dx)
                     plan.points.push_back({dx, row.second, row.first});
         });
+    }
     plan.widestFold = std::max({plan.widestFold, plan.points.size(), std::size_t(shortSpan)});
     return plan;
 }
