@@ -546,18 +546,6 @@ TEST(ElementwiseOperators, SetCategoryConvertsThePixelsForEachCategory)
 
 // ---- Dense images: the vectorised, banded path ---------------------------------
 
-// DispatchSampleType over the real sample types, which are all these tests use.
-template <class Function>
-decltype(auto) WithRealType(System::NumericTypeEnum type, Function&& function)
-{
-    return Basic::Images::DispatchSampleType(type, [&](auto tag) -> decltype(auto) {
-        if constexpr (std::is_arithmetic_v<typename decltype(tag)::type>)
-            return function(tag);
-        else
-            return function(std::type_identity<double>{});
-    });
-}
-
 // Samples spread over the whole range of `type`, so that sums saturate often;
 // floating ones include NaN, infinities and values that round.
 std::vector<double> RandomSamples(NumericTypeEnum type, std::size_t count, unsigned seed)

@@ -16,6 +16,7 @@
 #include <complex>
 #include <cstdint>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 namespace Quilon_::Tests {
@@ -79,6 +80,18 @@ inline std::vector<double> SamplesOf(const ImageRef& image)
         });
     });
     return values;
+}
+
+// DispatchSampleType over the real sample types, which are all these tests use.
+template <class Function>
+decltype(auto) WithRealType(System::NumericTypeEnum type, Function&& function)
+{
+    return Basic::Images::DispatchSampleType(type, [&](auto tag) -> decltype(auto) {
+        if constexpr (std::is_arithmetic_v<typename decltype(tag)::type>)
+            return function(tag);
+        else
+            return function(std::type_identity<double>{});
+    });
 }
 
 } // namespace Quilon_::Tests

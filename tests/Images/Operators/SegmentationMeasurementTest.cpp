@@ -321,18 +321,6 @@ TEST(MeasurementsBasic, MomentsAndVolumeAreGivenPerBand)
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();
 constexpr double inf = std::numeric_limits<double>::infinity();
 
-// DispatchSampleType over the real sample types, which are all these tests use.
-template <class Function>
-decltype(auto) WithRealType(System::NumericTypeEnum type, Function&& function)
-{
-    return Basic::Images::DispatchSampleType(type, [&](auto tag) -> decltype(auto) {
-        if constexpr (std::is_arithmetic_v<typename decltype(tag)::type>)
-            return function(tag);
-        else
-            return function(std::type_identity<double>{});
-    });
-}
-
 // Two humps, so that Otsu's split means something, spread over the type's
 // range, clamped to it; floating types get a few NaNs and infinities.
 std::vector<double> TwoHumps(System::NumericTypeEnum type, std::size_t count, unsigned seed)
