@@ -93,7 +93,7 @@ cv::Mat RandomMat(int rows, int cols, unsigned seed)
 
 System::NumericTypeEnum DataTypeOf(int cvType)
 {
-    return cvType == CV_32F ? System::ntFloat : System::ntUInt8;
+    return cvType == CV_32F ? System::ntFloat : cvType == CV_16U ? System::ntUInt16 : System::ntUInt8;
 }
 
 ImageRef NewImage(int width, int height, System::NumericTypeEnum type)
@@ -110,7 +110,10 @@ cv::Mat View(const ImageRef& image)
     System::Ref<Images::IBitmap> bitmap = image->Bitmap();
     const auto size = bitmap->Size();
     const System::NumericTypeEnum type = bitmap->Format()->DataType();
-    const int cvType = type == System::ntFloat ? CV_32F : type == System::ntUInt8 ? CV_8U : -1;
+    const int cvType = type == System::ntFloat    ? CV_32F
+                       : type == System::ntUInt16 ? CV_16U
+                       : type == System::ntUInt8  ? CV_8U
+                                                  : -1;
     const std::vector<std::int64_t> strides = bitmap->Strides();
     if (cvType < 0 || strides[0] != bitmap->Format()->BytesPerSample()) {
         std::fprintf(stderr, "unexpected image layout: %ls\n", bitmap->Format()->ToString().c_str());
@@ -441,6 +444,34 @@ void AddMainRows()
             return Compare(ours, b->dst);
         };
         row.twoThreads = true;
+        Rows().push_back(row);
+    }
+    {
+        // 16-bit samples spread over the whole range. The toolkit writes an
+        // 8-bit binary image; OpenCV keeps the source's type and writes 255
+        // into 16-bit samples.
+        cv::Mat words;
+        Grey().convertTo(words, CV_16U, 257.0);
+        auto b = Make(words, ImageOf(words));
+        Row row;
+        row.name = "Threshold16bit";
+        row.toolkit = [b] { Segmentation::Threshold(b->input, b->output, 32768.0); };
+        row.peer = [b] { cv::threshold(b->src, b->dst, 32767, 255, cv::THRESH_BINARY); };
+        row.compare = [b] { return Compare(View(b->output), b->dst); };
+        Rows().push_back(row);
+    }
+    {
+        cv::Mat floats, others;
+        Grey().convertTo(floats, CV_32F, 1.0 / 7);
+        SecondGrey().convertTo(others, CV_32F, 1.0 / 3);
+        auto b = Make(floats, ImageOf(floats));
+        b->src2 = others;
+        b->second = ImageOf(others);
+        Row row;
+        row.name = "AddFloat";
+        row.toolkit = [b] { Arithmetic::Add(b->input, b->second, b->output); };
+        row.peer = [b] { cv::add(b->src, b->src2, b->dst); };
+        row.compare = [b] { return Compare(View(b->output), b->dst); };
         Rows().push_back(row);
     }
 }

@@ -3,6 +3,7 @@
 #include "Quilon_/Library.h"
 #include "Quilon_/System/Type.h"
 
+#include <atomic>
 #include <mutex>
 #include <new>
 
@@ -14,11 +15,15 @@ namespace {
 
 constexpr std::int64_t PressureStep = 0x80000;
 
+// Every allocation of the library passes here: the count is one atomic
+// addition, and the section is taken only when the change since the last
+// batch crosses a step and the manager is to be told.
 struct PressureCounters {
-    std::uint64_t allocatedMemorySize = 0;
-    // Not yet passed on to the manager.
-    std::int64_t pendingPressure = 0;
-    // Passed on to the manager, in total.
+    std::atomic<std::uint64_t> allocatedMemorySize{0};
+    // The count when the last batch was taken: what is not yet passed on to
+    // the manager is the difference. Written under the section.
+    std::atomic<std::uint64_t> batchStart{0};
+    // Passed on to the manager, in total; changed under the section.
     std::uint64_t reportedPressure = 0;
 };
 
@@ -34,12 +39,32 @@ std::recursive_mutex& MemorySection()
     return *section;
 }
 
-// The pending change, which is cleared before the manager hears of it, so
-// that what the manager allocates meanwhile starts a new batch.
-std::int64_t TakePending()
+// The change not yet passed on when the count is `allocated`.
+std::int64_t PendingAt(std::uint64_t allocated)
 {
-    std::int64_t pending = counters.pendingPressure;
-    counters.pendingPressure = 0;
+    return static_cast<std::int64_t>(allocated - counters.batchStart.load(std::memory_order_relaxed));
+}
+
+bool AddsAStep(std::int64_t pending)
+{
+    return pending >= PressureStep;
+}
+
+bool RemovesAStep(std::int64_t pending)
+{
+    return pending <= -PressureStep;
+}
+
+// Under the section: the pending change, which is cleared before the
+// manager hears of it, so that what the manager allocates meanwhile starts
+// a new batch; 0 when another thread took the batch in the meantime.
+std::int64_t TakePending(bool (*crossed)(std::int64_t))
+{
+    const std::uint64_t allocated = counters.allocatedMemorySize.load(std::memory_order_relaxed);
+    const std::int64_t pending = PendingAt(allocated);
+    if (!crossed(pending))
+        return 0;
+    counters.batchStart.store(allocated, std::memory_order_relaxed);
     return pending;
 }
 
@@ -47,12 +72,14 @@ std::int64_t TakePending()
 
 void AddMemoryPressure(std::uint64_t bytes)
 {
-    std::lock_guard<std::recursive_mutex> lock(MemorySection());
-    counters.allocatedMemorySize += bytes;
-    counters.pendingPressure += static_cast<std::int64_t>(bytes);
-    if (counters.pendingPressure < PressureStep)
+    const std::uint64_t allocated =
+        counters.allocatedMemorySize.fetch_add(bytes, std::memory_order_relaxed) + bytes;
+    if (!AddsAStep(PendingAt(allocated)))
         return;
-    const std::int64_t pending = TakePending();
+    std::lock_guard<std::recursive_mutex> lock(MemorySection());
+    const std::int64_t pending = TakePending(&AddsAStep);
+    if (pending == 0)
+        return;
     if (Pointer<IMemoryManager, 0> manager = Library::MemoryManager()) {
         manager->AddMemoryPressure(static_cast<std::uint64_t>(pending));
         counters.reportedPressure += static_cast<std::uint64_t>(pending);
@@ -61,12 +88,14 @@ void AddMemoryPressure(std::uint64_t bytes)
 
 void RemoveMemoryPressure(std::uint64_t bytes)
 {
-    std::lock_guard<std::recursive_mutex> lock(MemorySection());
-    counters.allocatedMemorySize -= bytes;
-    counters.pendingPressure -= static_cast<std::int64_t>(bytes);
-    if (counters.pendingPressure > -PressureStep)
+    const std::uint64_t allocated =
+        counters.allocatedMemorySize.fetch_sub(bytes, std::memory_order_relaxed) - bytes;
+    if (!RemovesAStep(PendingAt(allocated)))
         return;
-    const std::int64_t pending = TakePending();
+    std::lock_guard<std::recursive_mutex> lock(MemorySection());
+    const std::int64_t pending = TakePending(&RemovesAStep);
+    if (pending == 0)
+        return;
     if (Pointer<IMemoryManager, 0> manager = Library::MemoryManager()) {
         manager->RemoveMemoryPressure(static_cast<std::uint64_t>(-pending));
         counters.reportedPressure -= static_cast<std::uint64_t>(-pending);
@@ -81,8 +110,7 @@ void ForceGarbageCollection()
 
 extern "C" std::uint64_t AllocatedMemorySize()
 {
-    std::lock_guard<std::recursive_mutex> lock(MemorySection());
-    return counters.allocatedMemorySize;
+    return counters.allocatedMemorySize.load(std::memory_order_relaxed);
 }
 
 } // namespace Quilon_::System

@@ -4,6 +4,7 @@
 #include "Quilon_/System/Collections/CollectionImpl.h"
 #include "Quilon_/System/Raise.h"
 
+#include <typeinfo>
 #include <vector>
 
 namespace Quilon_::Basic::Geometry {
@@ -155,3 +156,19 @@ const System::Template::Initializer<::Library> coordinates(&RegisterCoordinates,
 } // namespace
 
 } // namespace Quilon_::Basic::Geometry
+
+namespace Quilon_::Basic::Images {
+
+System::Pointer<Quilon_::Geometry::ICoordinates, 1> CopyOfSize(Quilon_::Geometry::ICoordinates& size);
+
+System::Pointer<Quilon_::Geometry::ICoordinates, 1> CopyOfSize(Quilon_::Geometry::ICoordinates& size)
+{
+    using Own = Basic::Geometry::CIntegerCoordinates;
+    if (typeid(size) == typeid(Own))
+        return System::Pointer<Quilon_::Geometry::ICoordinates, 1>(new Own(static_cast<const Own&>(size)));
+    return System::Pointer<Quilon_::Geometry::ICoordinates, 1>(
+        System::Pointer<System::ICloneable, 1>(System::Pointer<Quilon_::Geometry::ICoordinates, 1>(&size))
+            ->Clone());
+}
+
+} // namespace Quilon_::Basic::Images

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <complex>
 #include <cstring>
+#include <typeinfo>
 #include <vector>
 
 namespace Quilon_::Basic::Images {
@@ -181,7 +182,7 @@ void CBitmap::CheckFits(const Layout& layout, System::IMemory& memory)
 
 CoordinatesRef CBitmap::Size()
 {
-    return CoordinatesRef(System::Pointer<System::ICloneable, 1>(m_size)->Clone());
+    return CopyOfSize(*m_size);
 }
 
 void CBitmap::Reshape(CoordinatesRef size, FormatRef format, const Padding& padding)
@@ -251,7 +252,11 @@ System::Pointer<System::ICloneable, 1> CBitmap::Clone()
 
 SampleBlock BlockOf(IBitmap& bitmap)
 {
-    if (auto* own = dynamic_cast<CBitmap*>(&bitmap))
+    // Compared by type first: a failing or successful cast through the
+    // virtual bases costs more than the rest of a small operator's set-up.
+    CBitmap* own =
+        typeid(bitmap) == typeid(CBitmap) ? static_cast<CBitmap*>(&bitmap) : dynamic_cast<CBitmap*>(&bitmap);
+    if (own)
         return {own->GetLayout(), own->Data(), own->DataType()};
     FormatRef format = bitmap.Format();
     CoordinatesRef size = bitmap.Size();

@@ -84,6 +84,12 @@ struct SampleBlock {
 };
 SampleBlock BlockOf(IBitmap& bitmap);
 
+// A new copy of a size, as its Clone() makes it; the reference library's
+// own coordinates are copied without the interface casts of Clone(), since
+// every rule of an operator call asks an image for its size
+// (Geometry/Coordinates.cpp).
+CoordinatesRef CopyOfSize(Geometry::ICoordinates& size);
+
 // Fills the samples of `block` outside the box [lower, upper) as `padding`
 // says (Pad.cpp).
 void PadOutside(const SampleBlock& block, const Extent& lower, const Extent& upper, const Padding& padding);

@@ -488,6 +488,10 @@ TEST(FilteringBasic, FastSmoothingMatchesThePlainFilterUnderEveryInstructionSet)
         const Padding mirror(ptMirror, System::Any());
         const std::pair<const char*, std::function<void(ImageRef, ImageRef)>> filters[] = {
             {"Gaussian 2", [](ImageRef a, ImageRef b) { F::Gaussian(a, b, 2.0); }},
+            // A radius read at run time, then one too tall to convert each
+            // row once for a block of rows.
+            {"Gaussian 4", [](ImageRef a, ImageRef b) { F::Gaussian(a, b, 4.0); }},
+            {"Gaussian 6.5", [](ImageRef a, ImageRef b) { F::Gaussian(a, b, 6.5); }},
             {"Gaussian 0.8, side 5", [](ImageRef a, ImageRef b) { F::Gaussian(a, b, 0.8, std::int64_t(5)); }},
             {"Gaussian 1.5 mirrored", [&](ImageRef a, ImageRef b) { F::Gaussian(a, b, 1.5, mirror); }},
             {"Gaussian 1 constant", [&](ImageRef a, ImageRef b) { F::Gaussian(a, b, 1.0, constant); }},

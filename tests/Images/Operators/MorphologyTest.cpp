@@ -11,6 +11,7 @@
 #include "Quilon_/Images/Morphology/Geodesy/Functions.h"
 #include "Quilon_/Images/Morphology/OpeningClosing/Functions.h"
 #include "Quilon_/Images/Morphology/Segmentation/Functions.h"
+#include "Quilon_/System/Threading/ThreadPool.h"
 
 #include "../../Support/BasicLibrary.h"
 #include "../../Support/InChildProcess.h"
@@ -360,36 +361,49 @@ TEST(Morphology, RowPathsMatchTheDefinitionUnderEveryInstructionSet)
     });
 }
 
-// Images large enough to be cut into bands over the processing pool, and
+// Images large enough to be cut into bands over the processing pool (band
+// edges cutting through the element: every band lays its own buffers), and
 // one large enough (8 MB) to be written with streaming stores, rows not
 // aligned to a vector.
 TEST(Morphology, BandedAndStreamedErosionMatchTheDefinition)
 {
     InChildProcess([] {
         StartBasic();
-        const Shape banded{{300, 261}, Axes::aXY, 300, 261, 1, 1};
+        // Three threads cut eight bands, on any machine.
+        System::Threading::Globals::SetProcessingThreadPool(System::Threading::ThreadPool::New(3));
+        const Shape banded{{401, 347}, Axes::aXY, 401, 347, 1, 1};
+        const Shape deep{{67, 45, 47}, Axes::aXYZ, 67, 45, 47, 1};
         const Shape streamed{{1030, 1025}, Axes::aXY, 1030, 1025, 1, 1};
-        const std::tuple<const Shape*, System::NumericTypeEnum, double> cases[] = {
-            {&banded, System::ntUInt8, 1.0},
-            {&banded, System::ntUInt8, 3.0},
-            {&banded, System::ntFloat, 1.0},
-            {&streamed, System::ntDouble, 2.0},
+        const auto disk = [](double radius) {
+            return [radius] { return StructuringElement::New(pseDisk, radius); };
         };
-        for (const auto& [shape, type, radius] : cases) {
+        const std::tuple<const Shape*, System::NumericTypeEnum, std::function<Ref<IStructuringElement>()>>
+            cases[] = {
+                {&banded, System::ntUInt8, disk(1.0)},
+                {&banded, System::ntUInt8, disk(2.0)},
+                {&banded, System::ntUInt8, disk(3.0)},
+                {&banded, System::ntInt16, [] { return StructuringElement::New(pseSquare, 1.0); }},
+                {&banded, System::ntUInt16, [] { return StructuringElement::New(pseVerticalLine, 7.0); }},
+                {&banded, System::ntFloat, disk(2.0)},
+                {&deep, System::ntUInt8, [] { return StructuringElement::New(pseBall, 1.0); }},
+                {&streamed, System::ntDouble, disk(2.0)},
+            };
+        for (const auto& [shape, type, make] : cases) {
             const Shape& s = *shape;
-            const ImageRef input = ImageOf(type, s, WideValues(type, std::size_t(s.nx * s.ny), 77));
-            const Plain f{s.nx, s.ny, 1, 1, SamplesOf(input)};
-            Ref<IStructuringElement> disk = StructuringElement::New(pseDisk, radius);
-            const std::vector<Offset3> offsets = OffsetsOf(*disk->Points());
+            const ImageRef input = ImageOf(type, s, WideValues(type, std::size_t(s.nx * s.ny * s.nz), 77));
+            const Plain f{s.nx, s.ny, s.nz, 1, SamplesOf(input)};
+            Ref<IStructuringElement> element = make();
+            const std::vector<Offset3> offsets = OffsetsOf(*element->Points());
             const Plain eroded = Morph(f, offsets, false), dilated = Morph(f, offsets, true);
-            const std::string what =
-                std::to_string(s.nx) + " x " + std::to_string(s.ny) + ", radius " + std::to_string(radius);
+            const std::string what = std::to_string(s.nx) + " x " + std::to_string(s.ny) + " x " +
+                                     std::to_string(s.nz) + ", " + std::to_string(offsets.size()) +
+                                     " offsets, " + System::ToAnsi(System::ToString(type));
             Testing::ForEachSimdTarget([&](const std::string& target) {
                 ImageRef output = Images::Image::New();
-                BasicFunctions::Erode(input, output, disk);
+                BasicFunctions::Erode(input, output, element);
                 ExpectStored(output, type, eroded, "erode " + what + ", " + target);
                 ImageRef inPlace = ImageOf(type, s, f.values);
-                BasicFunctions::Dilate(inPlace, inPlace, disk);
+                BasicFunctions::Dilate(inPlace, inPlace, element);
                 ExpectStored(inPlace, type, dilated, "dilate in place " + what + ", " + target);
             });
         }

@@ -321,76 +321,80 @@ TEST(MeasurementsBasic, MomentsAndVolumeAreGivenPerBand)
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();
 constexpr double inf = std::numeric_limits<double>::infinity();
 
-// Two humps, so that Otsu's split means something, spread over the type's
-// range, clamped to it; floating types get a few NaNs and infinities.
+// Banded, and a small volume.
+const std::vector<DenseShape> denseShapes{bandedShape, smallVolume};
+
 std::vector<double> TwoHumps(System::NumericTypeEnum type, std::size_t count, unsigned seed)
 {
-    std::mt19937 random(seed);
-    std::vector<double> values(count);
-    WithRealType(type, [&](auto tag) {
-        using T = typename decltype(tag)::type;
-        const double low = std::is_integral_v<T> ? double(std::numeric_limits<T>::lowest()) : -1e4;
-        const double high = std::is_integral_v<T> ? double(std::numeric_limits<T>::max()) : 1e4;
-        const double span = high - low;
-        for (double& value : values) {
-            const double centre = random() % 3 == 0 ? low + 0.25 * span : low + 0.7 * span;
-            const double drawn = std::normal_distribution<double>(centre, 0.15 * span)(random);
-            value = double(T(std::clamp(drawn, low, high)));
-            if constexpr (!std::is_integral_v<T>) {
-                const double specials[] = {nan, inf, -inf};
-                if (random() % 97 == 0)
-                    value = specials[random() % 3];
-            }
-        }
-    });
-    return values;
+    return RandomSamples(type, count, seed, Spread::twoHumps);
 }
 
-struct DenseShape {
-    std::vector<std::int64_t> extent;
-    Axes axes;
-    std::size_t Count() const
-    {
-        std::size_t count = 1;
-        for (std::int64_t size : extent)
-            count *= std::size_t(size);
-        return count;
-    }
-};
-
-// Large enough to be banded, with an odd tail; a small volume.
-const std::vector<DenseShape> denseShapes{{{613, 211}, Axes::aXY}, {{37, 5, 3}, Axes::aXYZ}};
+std::string Describe(System::NumericTypeEnum type, std::size_t count)
+{
+    return System::ToAnsi(System::ToString(type)) + " of " + std::to_string(count);
+}
 
 TEST(SegmentationBasic, DenseThresholdsCompareAsDoublesUnderEveryInstructionSet)
 {
     InChildProcess([] {
         StartBasic();
-        // lower <= v <= upper, as the source's samples compare in double.
+        // lower <= v <= upper, as the source's samples compare in double:
+        // bounds between samples, beyond the type's range (both ways), NaN,
+        // empty intervals, and near the ends of the 64-bit types.
         const std::vector<std::pair<double, double>> bounds{
-            {128, inf}, {0.5, inf},  {-1e300, inf}, {1e300, inf}, {nan, inf}, {-inf, inf},
-            {0.1, inf}, {10, 200.5}, {-0.1, 0.1},   {200, 100},   {nan, 5.0}, {-40000, 40000.5}};
-        for (System::NumericTypeEnum type :
-             {System::ntUInt8, System::ntInt8, System::ntUInt16, System::ntInt16, System::ntInt32,
-              System::ntUInt32, System::ntFloat, System::ntDouble})
-            for (const DenseShape& shape : denseShapes) {
-                const std::vector<double> values = TwoHumps(type, shape.Count(), 3);
-                ImageRef source = SampleImage(type, shape.extent, shape.axes, values);
-                Testing::ForEachSimdTarget([&](const std::string& target) {
-                    for (const auto& [lower, upper] : bounds) {
-                        std::vector<double> expected(values.size());
-                        for (std::size_t i = 0; i < values.size(); ++i)
-                            expected[i] = lower <= values[i] && values[i] <= upper ? 255 : 0;
-                        ImageRef binary = Image::New();
-                        if (upper == inf)
-                            S::Threshold(source, binary, lower);
-                        else
-                            S::Threshold(source, binary, ::Quilon_::Math::IntervalD::New(lower, upper));
-                        ASSERT_EQ(SamplesOf(binary), expected)
-                            << System::ToAnsi(System::ToString(type)) << " [" << lower << ", " << upper
-                            << "] of " << values.size() << " under " << target;
-                    }
-                });
+            {128, inf},    {10, 200.5},       {-inf, inf},   {0.5, inf},      {-1e300, inf},
+            {1e300, inf},  {nan, inf},        {0.1, inf},    {-0.1, 0.1},     {200, 100},
+            {nan, 5.0},    {-40000, 40000.5}, {9.2e18, inf}, {-inf, -9.2e18}, {0x1p63, inf},
+            {0x1p64, inf}, {-0x1p63, -0x1p63}};
+        // The first `boundCount` bounds only, if given.
+        const auto expectThresholds = [&](const ImageRef& source, const std::vector<double>& values,
+                                          const std::string& what, std::size_t boundCount = 0) {
+            for (std::size_t k = 0; k < (boundCount ? boundCount : bounds.size()); ++k) {
+                const auto [lower, upper] = bounds[k];
+                std::vector<double> expected(values.size());
+                for (std::size_t i = 0; i < values.size(); ++i)
+                    expected[i] = lower <= values[i] && values[i] <= upper ? 255 : 0;
+                ImageRef binary = Image::New();
+                if (upper == inf)
+                    S::Threshold(source, binary, lower);
+                else
+                    S::Threshold(source, binary, ::Quilon_::Math::IntervalD::New(lower, upper));
+                ASSERT_EQ(SamplesOf(binary), expected) << what << " [" << lower << ", " << upper << "]";
             }
+        };
+        // Every kernel variant on a small volume; banding once, with the
+        // default choice.
+        for (System::NumericTypeEnum type :
+             {System::ntUInt8, System::ntInt8, System::ntUInt16, System::ntInt16, System::ntUInt32,
+              System::ntInt32, System::ntUInt64, System::ntInt64, System::ntFloat, System::ntDouble}) {
+            std::vector<double> values = TwoHumps(type, smallVolume.Count(), 3);
+            // The ends of the range, which the bounds above reach.
+            WithRealType(type, [&](auto tag) {
+                using L = std::numeric_limits<typename decltype(tag)::type>;
+                values[1] = double(L::lowest());
+                values[2] = sizeof(L::max()) == 8 ? std::nextafter(double(L::max()), 0.0) : double(L::max());
+            });
+            ImageRef source = SampleImage(type, smallVolume.extent, smallVolume.axes, values);
+            Testing::ForEachSimdTarget([&](const std::string& target) {
+                expectThresholds(source, values, Describe(type, values.size()) + " under " + target);
+            });
+            values = TwoHumps(type, bandedShape.Count(), 3);
+            expectThresholds(SampleImage(type, bandedShape.extent, bandedShape.axes, values), values,
+                             Describe(type, values.size()), 3);
+        }
+        // In place: an 8-bit image thresholded over itself, large enough
+        // for its result to be written past the caches.
+        const DenseShape streamed{{2900, 2901}, Axes::aXY};
+        // Scrambled bytes, cheaper to make than random ones.
+        std::vector<double> values(streamed.Count());
+        for (std::size_t i = 0; i < values.size(); ++i)
+            values[i] = double(std::uint32_t(i * 2654435761u) >> 24);
+        ImageRef image = SampleImage(System::ntUInt8, streamed.extent, streamed.axes, values);
+        S::Threshold(image, image, 100.0);
+        std::vector<double> expected(values.size());
+        for (std::size_t i = 0; i < values.size(); ++i)
+            expected[i] = values[i] >= 100 ? 255 : 0;
+        EXPECT_EQ(SamplesOf(image), expected);
     });
 }
 
@@ -398,26 +402,52 @@ TEST(SegmentationBasic, OtsuAndEntropyByValueTableMatchTheSortedCounts)
 {
     InChildProcess([] {
         StartBasic();
-        // Without a mask, 8- and 16-bit images are counted by value; a mask
-        // of ones selects the same samples through the sorted counts.
+        // 8- and 16-bit images are counted by value, with or without a mask;
+        // the same values as 32-bit integers are sorted and counted, the
+        // reference. Masks: random 0 and 1 bytes; floats with NaN (set) and
+        // -0 (not set); all zero.
+        struct Levels {
+            double otsu = nan, entropy = nan;
+            std::vector<double> aboveOtsu, aboveEntropy;
+            bool operator==(const Levels&) const = default;
+        };
+        const auto levelsOf = [](const ImageRef& source, const Mask& mask) {
+            Levels levels;
+            ImageRef binary = Image::New();
+            S::OtsuThreshold(source, binary, mask, levels.otsu);
+            levels.aboveOtsu = SamplesOf(binary);
+            S::EntropyThreshold(source, binary, mask, levels.entropy);
+            levels.aboveEntropy = SamplesOf(binary);
+            return levels;
+        };
         for (System::NumericTypeEnum type :
              {System::ntUInt8, System::ntInt8, System::ntUInt16, System::ntInt16})
-            for (const DenseShape& shape : denseShapes) {
-                SCOPED_TRACE(System::ToAnsi(System::ToString(type)) + " of " + std::to_string(shape.Count()));
-                ImageRef source =
-                    SampleImage(type, shape.extent, shape.axes, TwoHumps(type, shape.Count(), 4));
-                ImageRef ones = SampleImage(System::ntUInt8, shape.extent, shape.axes,
-                                            std::vector<double>(shape.Count(), 1));
-                ImageRef fast = Image::New(), plain = Image::New();
-                double fastLevel = nan, plainLevel = nan;
-                S::OtsuThreshold(source, fast, Mask(), fastLevel);
-                S::OtsuThreshold(source, plain, Mask(ones), plainLevel);
-                EXPECT_EQ(fastLevel, plainLevel);
-                EXPECT_EQ(SamplesOf(fast), SamplesOf(plain));
-                S::EntropyThreshold(source, fast, Mask(), fastLevel);
-                S::EntropyThreshold(source, plain, Mask(ones), plainLevel);
-                EXPECT_EQ(fastLevel, plainLevel);
-                EXPECT_EQ(SamplesOf(fast), SamplesOf(plain));
+            for (const DenseShape* shape : {&smallVolume, &bandedShape}) {
+                const std::size_t count = shape->Count();
+                const std::vector<double> values = TwoHumps(type, count, 4);
+                ImageRef source = SampleImage(type, shape->extent, shape->axes, values);
+                ImageRef reference = SampleImage(System::ntInt32, shape->extent, shape->axes, values);
+                std::vector<double> bits = RandomSamples(System::ntUInt8, count, 5), floats = bits;
+                for (std::size_t i = 0; i < count; ++i) {
+                    bits[i] = double(int(bits[i]) & 1);
+                    floats[i] = std::vector<double>{nan, -0.0, 0.0, 2.5}[std::size_t(floats[i]) % 4];
+                }
+                const std::vector<std::pair<const char*, Mask>> masks{
+                    {"no mask", Mask()},
+                    {"bytes", SampleImage(System::ntUInt8, shape->extent, shape->axes, bits)},
+                    {"floats", SampleImage(System::ntFloat, shape->extent, shape->axes, floats)},
+                    {"zeros", SampleImage(System::ntUInt16, shape->extent, shape->axes, {})}};
+                for (const auto& [name, mask] : masks) {
+                    const Levels expected = levelsOf(reference, mask);
+                    const auto check = [&](const std::string& target) {
+                        EXPECT_TRUE(levelsOf(source, mask) == expected)
+                            << Describe(type, count) << ", " << name << ", under " << target;
+                    };
+                    if (shape == &bandedShape)
+                        check("the default target");
+                    else
+                        Testing::ForEachSimdTarget(check);
+                }
             }
     });
 }
@@ -430,7 +460,7 @@ TEST(MeasurementsBasic, HistogramsByValueTableMatchTheSampleWalk)
         for (System::NumericTypeEnum type :
              {System::ntUInt8, System::ntInt8, System::ntUInt16, System::ntInt16})
             for (const DenseShape& shape : denseShapes) {
-                SCOPED_TRACE(System::ToAnsi(System::ToString(type)) + " of " + std::to_string(shape.Count()));
+                SCOPED_TRACE(Describe(type, shape.Count()));
                 const std::vector<double> values = TwoHumps(type, shape.Count(), 5);
                 ImageRef image = SampleImage(type, shape.extent, shape.axes, values);
                 ImageRef doubles = SampleImage(System::ntDouble, shape.extent, shape.axes, values);
@@ -475,7 +505,7 @@ TEST(MeasurementsBasic, RangesOfDenseImagesMatchTheMaskedWalk)
              {System::ntUInt8, System::ntInt8, System::ntUInt16, System::ntInt16, System::ntInt32,
               System::ntUInt32, System::ntFloat, System::ntDouble})
             for (const DenseShape& shape : denseShapes) {
-                SCOPED_TRACE(System::ToAnsi(System::ToString(type)) + " of " + std::to_string(shape.Count()));
+                SCOPED_TRACE(Describe(type, shape.Count()));
                 expectSameRange(SampleImage(type, shape.extent, shape.axes, TwoHumps(type, shape.Count(), 6)),
                                 shape);
             }

@@ -4,11 +4,13 @@
 #include "Images/Filtering/FastFilters.h"
 
 #include "Images/Filtering/FilterKernels.h"
+#include "Images/Operators/SampleKinds.h"
 #include "System/Threading/Parallel.h"
 
 #include <algorithm>
 #include <cstdint>
 #include <limits>
+#include <optional>
 #include <set>
 #include <utility>
 
@@ -37,7 +39,7 @@ bool FilterHoldsConstant(const BorderRule& border)
 template <class T>
 bool FilterViewsSuit(const BitmapView<T>& in, const BitmapView<T>& out)
 {
-    if (in.size != out.size || in.stride[slotX] != 1 || out.stride[slotX] != 1 || in.SampleCount() == 0)
+    if (in.size != out.size || !DenseRows(in) || !DenseRows(out) || in.SampleCount() == 0)
         return false;
     return !ViewsOverlap(in, out);
 }
@@ -65,22 +67,25 @@ void PrefetchFilterRow(const T* plane, std::int64_t strideY, std::int64_t y, std
         __builtin_prefetch(row + x);
 }
 
-// Calls row(inputPlane, outputRow, y) for every row y of every plane, rows
-// banded over the pool; each band makes its own `row = makeRow()`, which
-// holds the band's buffers.
-template <class T, class MakeRow>
-void ForEachFilterRow(const BitmapView<T>& in, const BitmapView<T>& out, std::int64_t costPerSample,
-                      MakeRow&& makeRow)
+// Calls rows(inputPlane, outputPlane, y, n) for the rows y .. y + n - 1 of
+// every plane, in groups of n = `group` rows (fewer at a plane's end),
+// groups banded over the pool; each band makes its own `rows = makeRows()`,
+// which holds the band's buffers.
+template <class T, class MakeRows>
+void ForEachFilterRowGroup(const BitmapView<T>& in, const BitmapView<T>& out, std::int64_t group,
+                           std::int64_t costPerSample, MakeRows&& makeRows)
 {
     const std::int64_t nx = in.size[slotX], ny = in.size[slotY];
     const std::int64_t planes = in.size[slotZ] * in.size[slotT] * in.size[slotB];
-    Threading::ParallelBands(planes * ny, nx * costPerSample, [&](std::int64_t first, std::int64_t last) {
-        auto row = makeRow();
-        for (std::int64_t item = first; item < last; ++item) {
-            const std::int64_t plane = item / ny, y = item % ny;
-            row(FilterPlane(in, plane), FilterPlane(out, plane) + y * out.stride[slotY], y);
-        }
-    });
+    const std::int64_t groups = (ny + group - 1) / group;
+    Threading::ParallelBands(
+        planes * groups, group * nx * costPerSample, [&](std::int64_t first, std::int64_t last) {
+            auto rows = makeRows();
+            for (std::int64_t item = first; item < last; ++item) {
+                const std::int64_t plane = item / groups, y = item % groups * group;
+                rows(FilterPlane(in, plane), FilterPlane(out, plane), y, std::min(group, ny - y));
+            }
+        });
 }
 
 // Fills the `radius` samples on each side of line[0, n) by the border rule.
@@ -116,8 +121,9 @@ bool IsSymmetricFilter(const std::vector<double>& weights)
     return true;
 }
 
-// Columns first, from the samples as they are, into one row of floats;
-// then along that row into the output.
+// Columns first, from the samples as they are, into rows of floats, a few
+// output rows at a time (each input sample is converted once for all of
+// them); then along those rows into the output.
 template <class T>
 void SmoothPlanes(const BitmapView<T>& in, const BitmapView<T>& out, const std::vector<float>& wx,
                   const std::vector<float>& wy, const BorderRule& border)
@@ -125,21 +131,28 @@ void SmoothPlanes(const BitmapView<T>& in, const BitmapView<T>& out, const std::
     const std::int64_t nx = in.size[slotX], ny = in.size[slotY];
     const auto rx = static_cast<std::int64_t>(wx.size()) - 1, ry = static_cast<std::int64_t>(wy.size()) - 1;
     const std::int64_t taps = 2 * (rx + ry) + 2;
-    ForEachFilterRow(in, out, taps, [&] {
-        return [&, column = std::vector<float>(static_cast<std::size_t>(nx + 2 * rx)),
+    const std::int64_t group = 2 * ry + gaussianBlockRows <= gaussianBlockSpan ? gaussianBlockRows : 1;
+    const auto columnLength = static_cast<std::size_t>(nx + 2 * rx);
+    ForEachFilterRowGroup(in, out, group, taps, [&] {
+        return [&, columns = std::vector<float>(columnLength * static_cast<std::size_t>(group)),
                 constant = std::vector<T>(static_cast<std::size_t>(nx), static_cast<T>(border.value)),
-                rows = std::vector<const T*>(static_cast<std::size_t>(2 * ry + 1))](const T* plane, T* output,
-                                                                                    std::int64_t y) mutable {
-            for (std::int64_t k = -ry; k <= ry; ++k) {
+                rows = std::vector<const T*>(static_cast<std::size_t>(2 * ry + group))](
+                   const T* plane, T* outputPlane, std::int64_t y, std::int64_t n) mutable {
+            for (std::int64_t k = -ry; k < ry + n; ++k) {
                 const std::int64_t source = SourceIndex(y + k, ny, border);
                 rows[static_cast<std::size_t>(k + ry)] =
                     source < 0 ? constant.data() : plane + source * in.stride[slotY];
             }
-            PrefetchFilterRow(plane, in.stride[slotY], y + ry + 1, ny, nx);
-            float* centre = column.data() + rx;
-            GaussianColumns(rows.data(), wy.data(), ry, nx, centre);
-            PadFilterLine(centre, nx, rx, border);
-            GaussianRow(column.data(), wx.data(), rx, nx, output);
+            float* centres[gaussianBlockRows];
+            for (std::int64_t j = 0; j < n; ++j)
+                centres[j] = columns.data() + static_cast<std::size_t>(j) * columnLength + rx;
+            for (std::int64_t j = 0; j < n; ++j)
+                PrefetchFilterRow(plane, in.stride[slotY], y + ry + n + j, ny, nx);
+            GaussianColumns(rows.data(), wy.data(), ry, nx, n, centres);
+            for (std::int64_t j = 0; j < n; ++j) {
+                PadFilterLine(centres[j], nx, rx, border);
+                GaussianRow(centres[j] - rx, wx.data(), rx, nx, outputPlane + (y + j) * out.stride[slotY]);
+            }
         };
     });
 }
@@ -163,36 +176,57 @@ std::int64_t SquareWindowSide(const std::vector<Point>& points)
 
 // The columns of the window are sorted straight from the input rows, then
 // the sorted columns outside the row are laid out by the border rule: a
-// column read through the rule sorts to the same ranks.
+// column read through the rule sorts to the same ranks. The 3 x 3 median
+// makes two output rows at a time, which share two of their three rows.
 void MedianPlanes(const BitmapView<std::uint8_t>& in, const BitmapView<std::uint8_t>& out, std::int64_t side,
                   const BorderRule& border)
 {
     const std::int64_t nx = in.size[slotX], ny = in.size[slotY], r = side / 2;
+    const std::int64_t group = side == 3 ? 2 : 1;
+    const std::int64_t windows = group * side; // rows of sorted columns
     // Rows of sorted columns a few cache lines more than a multiple of 4 KiB
     // apart (image rows often are such a multiple): a load from one row
     // then never waits on a store to another that the processor takes for
     // the same address.
     const auto width = (static_cast<std::size_t>(nx + 2 * r) + 63) / 64 * 64 + 5 * 64;
-    ForEachFilterRow(in, out, side * side, [&] {
+    ForEachFilterRowGroup(in, out, group, side * side, [&] {
         return [&,
                 constant = std::vector<std::uint8_t>(static_cast<std::size_t>(nx),
                                                      static_cast<std::uint8_t>(border.value)),
-                sorted = std::vector<std::uint8_t>(width * static_cast<std::size_t>(side))](
-                   const std::uint8_t* plane, std::uint8_t* output, std::int64_t y) mutable {
-            const std::uint8_t* rows[5];
-            std::uint8_t* ranks[5];
-            std::uint8_t* inside[5];
-            for (std::int64_t k = 0; k < side; ++k) {
+                sorted = std::vector<std::uint8_t>(width * static_cast<std::size_t>(windows))](
+                   const std::uint8_t* plane, std::uint8_t* outputPlane, std::int64_t y,
+                   std::int64_t n) mutable {
+            const std::uint8_t* rows[6];
+            std::uint8_t* ranks[6];
+            std::uint8_t* inside[6];
+            for (std::int64_t k = 0; k < side + n - 1; ++k) {
                 const std::int64_t source = SourceIndex(y + k - r, ny, border);
                 rows[k] = source < 0 ? constant.data() : plane + source * in.stride[slotY];
+            }
+            for (std::int64_t k = 0; k < windows; ++k) {
                 ranks[k] = sorted.data() + static_cast<std::size_t>(k) * width;
                 inside[k] = ranks[k] + r;
             }
-            const std::uint8_t* ahead = y + r + 1 < ny ? plane + (y + r + 1) * in.stride[slotY] : nullptr;
-            SortColumns(rows, side, nx, inside, ahead);
-            for (std::int64_t k = 0; k < side; ++k)
+            const std::int64_t next = y + n + r; // the first row the next group adds
+            const auto rowIfAny = [&](std::int64_t row) {
+                return row < ny ? plane + row * in.stride[slotY] : nullptr;
+            };
+            if (n == 2) {
+                const std::uint8_t* ahead[] = {rowIfAny(next), rowIfAny(next + 1)};
+                SortColumnPairs3(rows, nx, inside, ahead);
+            } else {
+                SortColumns(rows, side, nx, inside, rowIfAny(next));
+            }
+            for (std::int64_t k = 0; k < n * side; ++k)
                 PadFilterLine(inside[k], nx, r, border);
-            MedianOfSortedColumns(ranks, side, nx, output);
+            for (std::int64_t j = 0; j < n; ++j) {
+                // The output row of the next group, for the stores that
+                // would otherwise wait for it.
+                std::uint8_t* aheadOut =
+                    y + j + n < ny ? outputPlane + (y + j + n) * out.stride[slotY] : nullptr;
+                MedianOfSortedColumns(ranks + j * side, side, nx, outputPlane + (y + j) * out.stride[slotY],
+                                      aheadOut);
+            }
         };
     });
 }
@@ -202,8 +236,9 @@ void MedianPlanes(const BitmapView<std::uint8_t>& in, const BitmapView<std::uint
 bool SymmetricSeparableFast(const ImageRef& source, const ImageRef& destination,
                             const std::vector<std::vector<double>>& weightsBySlot, const BorderRule& border)
 {
-    const System::NumericTypeEnum type = DataTypeOf(source);
-    if ((type != System::ntUInt8 && type != System::ntFloat) || DataTypeOf(destination) != type)
+    const std::optional<SampleKind> kind = SampleKindOf(DataTypeOf(source));
+    if (!kind || (*kind != SampleKind::u8 && *kind != SampleKind::f32) ||
+        SampleKindOf(DataTypeOf(destination)) != kind)
         return false;
     const std::vector<int> slots = SpatialSlots(source);
     if (slots.empty() || slots[0] != slotX || slots.size() != weightsBySlot.size())
@@ -226,14 +261,15 @@ bool SymmetricSeparableFast(const ImageRef& source, const ImageRef& destination,
         SmoothPlanes(in, out, wx, wy, border);
         return true;
     };
-    return type == System::ntUInt8 ? run(std::type_identity<std::uint8_t>{})
+    return *kind == SampleKind::u8 ? run(std::type_identity<std::uint8_t>{})
                                    : run(std::type_identity<float>{});
 }
 
 bool MedianFast(const ImageRef& source, const ImageRef& destination, const std::vector<Point>& points,
                 const BorderRule& border)
 {
-    if (DataTypeOf(source) != System::ntUInt8 || DataTypeOf(destination) != System::ntUInt8)
+    if (SampleKindOf(DataTypeOf(source)) != SampleKind::u8 ||
+        SampleKindOf(DataTypeOf(destination)) != SampleKind::u8)
         return false;
     const std::int64_t side = SquareWindowSide(points);
     if (side == 0 || !FilterHoldsConstant<std::uint8_t>(border))

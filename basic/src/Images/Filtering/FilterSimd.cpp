@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <type_traits>
 #include <utility>
 
 #ifndef QUILON_FILTER_SIMD_NETWORKS
@@ -35,17 +36,12 @@ struct Exchange {
 // gives a matrix sorted along both directions, in which an element is
 // known to be below the median when at least half the window lies above
 // it, and above when at least half lies below; the median is the median of
-// the elements left (3 of 9, 13 of 25). The rank sorts and that last median
-// are Batcher merge-exchange networks, from which the exchanges whose
-// results are never read were removed. The networks were checked on every
-// window of zeros and ones with sorted columns, which by the 0-1 principle
-// covers every window.
-constexpr Exchange median3[] = {{0, 6, Keep::both}, {0, 3, Keep::high}, {3, 6, Keep::high},
-                                {1, 7, Keep::both}, {1, 4, Keep::high}, {4, 7, Keep::low},
-                                {2, 8, Keep::low},  {2, 5, Keep::low},  {6, 2, Keep::both},
-                                {6, 4, Keep::high}, {4, 2, Keep::low}};
-constexpr std::size_t median3Result = 4;
-
+// the elements left (13 of 25; the 3 x 3 window keeps 3 of 9, see
+// MedianOfSorted3). The rank sorts and that last median are Batcher
+// merge-exchange networks, from which the exchanges whose results are
+// never read were removed. The networks were checked on every window of
+// zeros and ones with sorted columns, which by the 0-1 principle covers
+// every window.
 constexpr Exchange median5[] = {
     {0, 20, Keep::both},  {0, 10, Keep::both},  {5, 15, Keep::both},  {10, 20, Keep::both},
     {0, 5, Keep::high},   {10, 15, Keep::high}, {5, 20, Keep::high},  {15, 20, Keep::both},
@@ -102,7 +98,20 @@ HWY_INLINE hn::Vec<D> LoadAsFloat(D df, const std::uint8_t* p)
     return hn::ConvertTo(df, hn::PromoteTo(di, hn::LoadU(d8, p)));
 }
 
-// out[x] = w[0] rows[r][x] + sum over k of w[k] (rows[r - k][x] + rows[r + k][x]).
+// The column sum at x of the window centred on centre[0], one sample at a
+// time (the last few samples of a row).
+template <class T>
+HWY_INLINE float SymmetricColumnAt(const T* const* centre, std::int64_t x, const float* w,
+                                   std::int64_t radius)
+{
+    float sum = w[0] * static_cast<float>(centre[0][x]);
+    for (std::int64_t k = 1; k <= radius; ++k)
+        sum += w[k] * (static_cast<float>(centre[-k][x]) + static_cast<float>(centre[k][x]));
+    return sum;
+}
+
+// One output row of the column pass, each tap loaded (and converted) on
+// its own: for windows too tall to keep every row of a block in registers.
 template <class T>
 HWY_INLINE void SymmetricColumns(const T* const* rows, const float* w, std::int64_t radius,
                                  std::int64_t count, float* out)
@@ -120,32 +129,119 @@ HWY_INLINE void SymmetricColumns(const T* const* rows, const float* w, std::int6
         }
         hn::StoreU(sum, df, out + x);
     }
-    for (; x < count; ++x) {
-        float sum = w[0] * static_cast<float>(centre[x]);
-        for (std::int64_t k = 1; k <= radius; ++k)
-            sum += w[k] * (static_cast<float>(rows[radius - k][x]) + static_cast<float>(rows[radius + k][x]));
-        out[x] = sum;
+    for (; x < count; ++x)
+        out[x] = SymmetricColumnAt(rows + radius, x, w, radius);
+}
+
+// Calls body(std::integral_constant<std::int64_t, R>) with R = radius for
+// the radii of common windows, so that their taps are unrolled and their
+// weights held in registers, and with R = 0 (radius read at run time) for
+// the others.
+template <class Body>
+HWY_INLINE void WithFixedRadius(std::int64_t radius, Body&& body)
+{
+    switch (radius) {
+    case 1:
+        return body(std::integral_constant<std::int64_t, 1>{});
+    case 2:
+        return body(std::integral_constant<std::int64_t, 2>{});
+    case 3:
+        return body(std::integral_constant<std::int64_t, 3>{});
+    case 4:
+        return body(std::integral_constant<std::int64_t, 4>{});
+    case 5:
+        return body(std::integral_constant<std::int64_t, 5>{});
+    case 6:
+        return body(std::integral_constant<std::int64_t, 6>{});
+    case 7:
+        return body(std::integral_constant<std::int64_t, 7>{});
+    case 8:
+        return body(std::integral_constant<std::int64_t, 8>{});
+    default:
+        return body(std::integral_constant<std::int64_t, 0>{});
     }
 }
 
-void GaussianColumnsU8(const std::uint8_t* const* rows, const float* w, std::int64_t radius,
-                       std::int64_t count, float* out)
+// out[j][x] for the gaussianBlockRows output rows centred on rows[r + j]:
+// the 2 r + n samples of a column are converted once, then summed for
+// every output row in the same order as a row on its own (so the results
+// are the same), the output rows' sums side by side.
+template <std::int64_t fixedRadius, class T>
+HWY_INLINE void SymmetricColumnBlock(const T* const* rowList, const float* w, std::int64_t radius,
+                                     std::int64_t count, float* const* outList)
 {
-    SymmetricColumns(rows, w, radius, count, out);
+    constexpr std::int64_t n = gaussianBlockRows;
+    const std::int64_t r = fixedRadius > 0 ? fixedRadius : radius;
+    const T* rows[gaussianBlockSpan];
+    for (std::int64_t i = 0; i < 2 * r + n; ++i)
+        rows[i] = rowList[i];
+    float* out[n];
+    for (std::int64_t j = 0; j < n; ++j)
+        out[j] = outList[j];
+    const hn::ScalableTag<float> df;
+    using V = hn::Vec<decltype(df)>;
+    const auto lanes = static_cast<std::int64_t>(hn::Lanes(df));
+    std::int64_t x = 0;
+    for (; x + lanes <= count; x += lanes) {
+        V v[gaussianBlockSpan];
+#pragma GCC unroll 24
+        for (std::int64_t i = 0; i < 2 * r + n; ++i)
+            v[i] = LoadAsFloat(df, rows[i] + x);
+        V sum[n];
+        const V w0 = hn::Set(df, w[0]);
+#pragma GCC unroll 4
+        for (std::int64_t j = 0; j < n; ++j)
+            sum[j] = hn::Mul(w0, v[r + j]);
+#pragma GCC unroll 8
+        for (std::int64_t k = 1; k <= r; ++k) {
+            const V wk = hn::Set(df, w[k]);
+#pragma GCC unroll 4
+            for (std::int64_t j = 0; j < n; ++j)
+                sum[j] = hn::MulAdd(wk, hn::Add(v[r + j - k], v[r + j + k]), sum[j]);
+        }
+#pragma GCC unroll 4
+        for (std::int64_t j = 0; j < n; ++j)
+            hn::StoreU(sum[j], df, out[j] + x);
+    }
+    for (; x < count; ++x)
+        for (std::int64_t j = 0; j < n; ++j)
+            out[j][x] = SymmetricColumnAt(rows + r + j, x, w, r);
+}
+
+template <class T>
+HWY_INLINE void SymmetricColumnRows(const T* const* rows, const float* w, std::int64_t radius,
+                                    std::int64_t count, std::int64_t n, float* const* out)
+{
+    if (n != gaussianBlockRows || 2 * radius + n > gaussianBlockSpan) {
+        for (std::int64_t j = 0; j < n; ++j)
+            SymmetricColumns(rows + j, w, radius, count, out[j]);
+        return;
+    }
+    WithFixedRadius(radius, [&](auto fixed) {
+        SymmetricColumnBlock<decltype(fixed)::value>(rows, w, radius, count, out);
+    });
+}
+
+void GaussianColumnsU8(const std::uint8_t* const* rows, const float* w, std::int64_t radius,
+                       std::int64_t count, std::int64_t n, float* const* out)
+{
+    SymmetricColumnRows(rows, w, radius, count, n, out);
 }
 
 void GaussianColumnsF32(const float* const* rows, const float* w, std::int64_t radius, std::int64_t count,
-                        float* out)
+                        std::int64_t n, float* const* out)
 {
-    SymmetricColumns(rows, w, radius, count, out);
+    SymmetricColumnRows(rows, w, radius, count, n, out);
 }
 
 // The row pass over a line padded by `radius` on each side.
-template <class D>
+template <std::int64_t fixedRadius, class D>
 HWY_INLINE hn::Vec<D> SymmetricRowAt(D df, const float* centre, const float* w, std::int64_t radius)
 {
+    const std::int64_t r = fixedRadius > 0 ? fixedRadius : radius;
     auto sum = hn::Mul(hn::Set(df, w[0]), hn::LoadU(df, centre));
-    for (std::int64_t k = 1; k <= radius; ++k)
+#pragma GCC unroll 8
+    for (std::int64_t k = 1; k <= r; ++k)
         sum =
             hn::MulAdd(hn::Set(df, w[k]), hn::Add(hn::LoadU(df, centre - k), hn::LoadU(df, centre + k)), sum);
     return sum;
@@ -159,22 +255,25 @@ HWY_INLINE float SymmetricRowAt(const float* centre, const float* w, std::int64_
     return sum;
 }
 
-void GaussianRowF32(const float* padded, const float* w, std::int64_t radius, std::int64_t count, float* out)
+template <std::int64_t fixedRadius>
+HWY_INLINE void SymmetricRow(const float* padded, const float* w, std::int64_t radius, std::int64_t count,
+                             float* out)
 {
     const hn::ScalableTag<float> df;
     const auto lanes = static_cast<std::int64_t>(hn::Lanes(df));
     const float* centre = padded + radius;
     std::int64_t x = 0;
     for (; x + lanes <= count; x += lanes)
-        hn::StoreU(SymmetricRowAt(df, centre + x, w, radius), df, out + x);
+        hn::StoreU(SymmetricRowAt<fixedRadius>(df, centre + x, w, radius), df, out + x);
     for (; x < count; ++x)
         out[x] = SymmetricRowAt(centre + x, w, radius);
 }
 
 // Rounded to nearest, ties to even, and saturated, as every conversion of
 // a computed value into a sample.
-void GaussianRowU8(const float* padded, const float* w, std::int64_t radius, std::int64_t count,
-                   std::uint8_t* out)
+template <std::int64_t fixedRadius>
+HWY_INLINE void SymmetricRow(const float* padded, const float* w, std::int64_t radius, std::int64_t count,
+                             std::uint8_t* out)
 {
     const hn::ScalableTag<float> df;
     const hn::Rebind<std::uint8_t, decltype(df)> d8;
@@ -182,11 +281,25 @@ void GaussianRowU8(const float* padded, const float* w, std::int64_t radius, std
     const float* centre = padded + radius;
     std::int64_t x = 0;
     for (; x + lanes <= count; x += lanes)
-        hn::StoreU(hn::DemoteTo(d8, hn::NearestInt(SymmetricRowAt(df, centre + x, w, radius))), d8, out + x);
+        hn::StoreU(hn::DemoteTo(d8, hn::NearestInt(SymmetricRowAt<fixedRadius>(df, centre + x, w, radius))),
+                   d8, out + x);
     for (; x < count; ++x) {
         const float value = std::nearbyint(SymmetricRowAt(centre + x, w, radius));
         out[x] = static_cast<std::uint8_t>(std::clamp(value, 0.0f, 255.0f));
     }
+}
+
+void GaussianRowF32(const float* padded, const float* w, std::int64_t radius, std::int64_t count, float* out)
+{
+    WithFixedRadius(radius,
+                    [&](auto fixed) { SymmetricRow<decltype(fixed)::value>(padded, w, radius, count, out); });
+}
+
+void GaussianRowU8(const float* padded, const float* w, std::int64_t radius, std::int64_t count,
+                   std::uint8_t* out)
+{
+    WithFixedRadius(radius,
+                    [&](auto fixed) { SymmetricRow<decltype(fixed)::value>(padded, w, radius, count, out); });
 }
 
 // ---- Median networks ------------------------------------------------------------
@@ -278,6 +391,92 @@ void SortColumnsU8(const std::uint8_t* const* rows, std::int64_t side, std::int6
         SortColumnsOf<5, MedianNetworks::sort5, std::size(MedianNetworks::sort5)>(rows, count, sorted, ahead);
 }
 
+// Rows b and c are ordered once; a joins them for the first window, d for
+// the second.
+template <class Order, class V>
+HWY_INLINE void SortColumnPair(V a, V b, V c, V d, V* first, V* second)
+{
+    const V low = Order::Low(b, c), high = Order::High(b, c);
+    const V aboveA = Order::High(a, low), belowD = Order::Low(d, high);
+    first[0] = Order::Low(a, low);
+    first[1] = Order::Low(aboveA, high);
+    first[2] = Order::High(aboveA, high);
+    second[0] = Order::Low(low, belowD);
+    second[1] = Order::High(low, belowD);
+    second[2] = Order::High(d, high);
+}
+
+void SortColumnPairs3U8(const std::uint8_t* const* rowList, std::int64_t count,
+                        std::uint8_t* const* sortedList, const std::uint8_t* const* aheadList)
+{
+    const std::uint8_t *ahead = aheadList[0], *aheadToo = aheadList[1];
+    const std::uint8_t *a = rowList[0], *b = rowList[1], *c = rowList[2], *d = rowList[3];
+    std::uint8_t* sorted[6];
+    for (std::size_t i = 0; i < 6; ++i)
+        sorted[i] = sortedList[i];
+    const hn::ScalableTag<std::uint8_t> du;
+    using V = hn::Vec<decltype(du)>;
+    const auto lanes = static_cast<std::int64_t>(hn::Lanes(du));
+    std::int64_t x = 0;
+    for (; x + lanes <= count; x += lanes) {
+        if (ahead)
+            __builtin_prefetch(ahead + x);
+        if (aheadToo)
+            __builtin_prefetch(aheadToo + x);
+        V v[6];
+        SortColumnPair<VectorOrder>(hn::LoadU(du, a + x), hn::LoadU(du, b + x), hn::LoadU(du, c + x),
+                                    hn::LoadU(du, d + x), v, v + 3);
+#pragma GCC unroll 6
+        for (std::size_t i = 0; i < 6; ++i)
+            hn::StoreU(v[i], du, sorted[i] + x);
+    }
+    for (; x < count; ++x) {
+        std::uint8_t v[6];
+        SortColumnPair<SampleOrder>(a[x], b[x], c[x], d[x], v, v + 3);
+        for (std::size_t i = 0; i < 6; ++i)
+            sorted[i][x] = v[i];
+    }
+}
+
+// The median of three, of a 3 x 3 window from its sorted columns: the
+// greatest of the columns' least values, the median of their medians and
+// the least of their greatest values.
+template <class Order, class V>
+HWY_INLINE V MedianOfThree(V a, V b, V c)
+{
+    return Order::High(Order::Low(a, b), Order::Low(Order::High(a, b), c));
+}
+
+template <class Order, class Load>
+HWY_INLINE auto MedianOfSorted3(Load load)
+{
+    const auto least = Order::High(Order::High(load(0, 0), load(0, 1)), load(0, 2));
+    const auto greatest = Order::Low(Order::Low(load(2, 0), load(2, 1)), load(2, 2));
+    const auto middle = MedianOfThree<Order>(load(1, 0), load(1, 1), load(1, 2));
+    return MedianOfThree<Order>(least, middle, greatest);
+}
+
+void MedianOfSortedColumns3(const std::uint8_t* const* sortedList, std::int64_t count, std::uint8_t* out,
+                            std::uint8_t* aheadOut)
+{
+    const std::uint8_t* sorted[3] = {sortedList[0], sortedList[1], sortedList[2]};
+    const hn::ScalableTag<std::uint8_t> du;
+    const auto lanes = static_cast<std::int64_t>(hn::Lanes(du));
+    std::int64_t x = 0;
+    for (; x + lanes <= count; x += lanes) {
+        if (aheadOut)
+            __builtin_prefetch(aheadOut + x, 1);
+        const auto load = [&](std::size_t rank, std::int64_t column) {
+            return hn::LoadU(du, sorted[rank] + x + column);
+        };
+        hn::StoreU(MedianOfSorted3<VectorOrder>(load), du, out + x);
+    }
+    for (; x < count; ++x) {
+        const auto load = [&](std::size_t rank, std::int64_t column) { return sorted[rank][x + column]; };
+        out[x] = MedianOfSorted3<SampleOrder>(load);
+    }
+}
+
 // out[x]: the median of the side x side window whose columns are
 // sorted[.][x] ... sorted[.][x + side - 1].
 template <std::size_t side, const Exchange* network, std::size_t size, std::size_t result>
@@ -310,11 +509,11 @@ HWY_INLINE void MedianOf(const std::uint8_t* const* sortedList, std::int64_t cou
 }
 
 void MedianOfSortedColumnsU8(const std::uint8_t* const* sorted, std::int64_t side, std::int64_t count,
-                             std::uint8_t* out)
+                             std::uint8_t* out, std::uint8_t* aheadOut)
 {
     using namespace MedianNetworks;
     if (side == 3)
-        MedianOf<3, median3, std::size(median3), median3Result>(sorted, count, out);
+        MedianOfSortedColumns3(sorted, count, out, aheadOut);
     else
         MedianOf<5, median5, std::size(median5), median5Result>(sorted, count, out);
 }
@@ -330,18 +529,19 @@ HWY_EXPORT(GaussianColumnsF32);
 HWY_EXPORT(GaussianRowF32);
 HWY_EXPORT(GaussianRowU8);
 HWY_EXPORT(SortColumnsU8);
+HWY_EXPORT(SortColumnPairs3U8);
 HWY_EXPORT(MedianOfSortedColumnsU8);
 
 void GaussianColumns(const std::uint8_t* const* rows, const float* weights, std::int64_t radius,
-                     std::int64_t count, float* out)
+                     std::int64_t count, std::int64_t n, float* const* out)
 {
-    HWY_DYNAMIC_DISPATCH(GaussianColumnsU8)(rows, weights, radius, count, out);
+    HWY_DYNAMIC_DISPATCH(GaussianColumnsU8)(rows, weights, radius, count, n, out);
 }
 
 void GaussianColumns(const float* const* rows, const float* weights, std::int64_t radius, std::int64_t count,
-                     float* out)
+                     std::int64_t n, float* const* out)
 {
-    HWY_DYNAMIC_DISPATCH(GaussianColumnsF32)(rows, weights, radius, count, out);
+    HWY_DYNAMIC_DISPATCH(GaussianColumnsF32)(rows, weights, radius, count, n, out);
 }
 
 void GaussianRow(const float* padded, const float* weights, std::int64_t radius, std::int64_t count,
@@ -362,10 +562,16 @@ void SortColumns(const std::uint8_t* const* rows, std::int64_t side, std::int64_
     HWY_DYNAMIC_DISPATCH(SortColumnsU8)(rows, side, count, sorted, ahead);
 }
 
-void MedianOfSortedColumns(const std::uint8_t* const* sorted, std::int64_t side, std::int64_t count,
-                           std::uint8_t* out)
+void SortColumnPairs3(const std::uint8_t* const* rows, std::int64_t count, std::uint8_t* const* sorted,
+                      const std::uint8_t* const* ahead)
 {
-    HWY_DYNAMIC_DISPATCH(MedianOfSortedColumnsU8)(sorted, side, count, out);
+    HWY_DYNAMIC_DISPATCH(SortColumnPairs3U8)(rows, count, sorted, ahead);
+}
+
+void MedianOfSortedColumns(const std::uint8_t* const* sorted, std::int64_t side, std::int64_t count,
+                           std::uint8_t* out, std::uint8_t* aheadOut)
+{
+    HWY_DYNAMIC_DISPATCH(MedianOfSortedColumnsU8)(sorted, side, count, out, aheadOut);
 }
 
 } // namespace Quilon_::Basic::Images::Operators

@@ -5,6 +5,7 @@
 #include <array>
 #include <cassert>
 #include <cstdlib>
+#include <iterator>
 #include <map>
 #include <utility>
 
@@ -80,7 +81,8 @@ void AddGroup(Decomposition& plan, SpanGroup group)
         keys.erase(std::unique(keys.begin(), keys.end()), keys.end());
         return keys;
     };
-    return ordered(Recomposed(plan)) == ordered(shifts);
+    return ordered(Recomposed(plan)) == ordered(shifts) &&
+           (!plan.chain || ordered(Recomposed(*plan.chain)) == ordered(shifts));
 }
 
 } // namespace
@@ -141,7 +143,69 @@ Decomposition Decompose(std::span<const Shift> shifts)
         });
     }
     plan.widestFold = std::max({plan.widestFold, plan.points.size(), std::size_t(shortSpan)});
+    // A chain reads each of its rows and terms once and stores each stage
+    // once per sample; an element of few offsets (the cross, short lines)
+    // costs less read directly.
+    plan.chain = Chained(shifts);
+    std::size_t offsets = 0;
+    for (const auto& entry : rows)
+        offsets += entry.second.size();
+    if (plan.chain &&
+        (plan.chain->terms.size() > mostChainTerms ||
+         plan.chain->rows.size() + plan.chain->terms.size() + plan.chain->StageCount() > offsets))
+        plan.chain.reset();
     return plan;
+}
+
+std::optional<ChainedElement> Chained(std::span<const Shift> shifts)
+{
+    // The column of every dx, its rows as (dz, dy), sorted and distinct.
+    std::map<std::int64_t, std::vector<RowKey>> columns;
+    for (const Shift& s : shifts)
+        columns[s.dx].push_back({s.dz, s.dy});
+    std::vector<std::vector<RowKey>> distinct;
+    for (auto& entry : columns) {
+        std::vector<RowKey>& rows = entry.second;
+        std::sort(rows.begin(), rows.end());
+        rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+        distinct.push_back(rows);
+    }
+    std::sort(distinct.begin(), distinct.end(), [](const auto& a, const auto& b) {
+        return a.size() != b.size() ? a.size() < b.size() : a < b;
+    });
+    distinct.erase(std::unique(distinct.begin(), distinct.end()), distinct.end());
+    for (std::size_t k = 1; k < distinct.size(); ++k)
+        if (!std::includes(distinct[k].begin(), distinct[k].end(), distinct[k - 1].begin(),
+                           distinct[k - 1].end()))
+            return std::nullopt;
+
+    ChainedElement chain;
+    for (std::size_t k = 0; k < distinct.size(); ++k) {
+        std::vector<RowKey> added;
+        if (k == 0)
+            added = distinct[0];
+        else
+            std::set_difference(distinct[k].begin(), distinct[k].end(), distinct[k - 1].begin(),
+                                distinct[k - 1].end(), std::back_inserter(added));
+        for (const RowKey& row : added)
+            chain.rows.push_back({row.second, row.first});
+        chain.stageEnds.push_back(chain.rows.size());
+    }
+    for (const auto& entry : columns) {
+        const auto stage = std::find(distinct.begin(), distinct.end(), entry.second) - distinct.begin();
+        chain.terms.push_back({std::size_t(stage), entry.first});
+        chain.padding = std::max(chain.padding, std::abs(entry.first));
+    }
+    return chain;
+}
+
+std::vector<Shift> Recomposed(const ChainedElement& chain)
+{
+    std::vector<Shift> shifts;
+    for (const ChainedElement::Term& term : chain.terms)
+        for (std::size_t i = 0; i < chain.stageEnds[term.stage]; ++i)
+            shifts.push_back({term.dx, chain.rows[i].dy, chain.rows[i].dz});
+    return shifts;
 }
 
 std::vector<Shift> Recomposed(const Decomposition& plan)

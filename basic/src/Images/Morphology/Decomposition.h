@@ -15,12 +15,18 @@
 // The decomposition covers exactly the element's offsets, some of them
 // more than once, which a minimum or a maximum does not mind
 // (Recomposed(plan) holds each offset of the element and no other).
+//
+// Small elements whose columns nest (squares, disks, cubes, balls, short
+// lines) are also given as a chain (ChainedElement): each output row then
+// costs one vertical fold per distinct column and one horizontal fold,
+// done band by band in one kernel call (ErosionSimd.h).
 #pragma once
 
 #include "Images/Morphology/MorphologyKernels.h"
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -41,7 +47,37 @@ struct SpanGroup {
     std::int64_t Length() const { return to - from + 1; }
 };
 
+// The element as nested columns. The rows (dy, dz) that the element holds
+// at a given dx form that column; when the columns of every dx are nested
+// (each holds the next smaller one), stage k folds the rows that its
+// column adds to the fold of stage k - 1, and every output row is the fold
+// of the terms: stage `stage` read at dx. The disk of radius 2 is three
+// stages (row 0; rows -1 and 1; rows -2 and 2) and five terms (stage 0 at
+// -2 and 2, stage 1 at -1 and 1, stage 2 at 0).
+struct ChainedElement {
+    struct Term {
+        std::size_t stage = 0;
+        std::int64_t dx = 0;
+    };
+    // Stage k adds rows[stageEnds[k - 1] .. stageEnds[k]) (from 0 for k = 0).
+    std::vector<RowOffset> rows;
+    std::vector<std::size_t> stageEnds;
+    std::vector<Term> terms;
+    // The samples of neutral value each stage's buffer has on either side.
+    std::int64_t padding = 0;
+
+    std::size_t StageCount() const { return stageEnds.size(); }
+    std::size_t StageBegin(std::size_t k) const { return k == 0 ? 0 : stageEnds[k - 1]; }
+};
+
+// Elements read by more terms than this take the span groups, whose long
+// spans fold by doubling.
+inline constexpr std::size_t mostChainTerms = 11;
+
 struct Decomposition {
+    // The chained form, when the element's columns nest and it has at most
+    // mostChainTerms columns; the fields below serve every element.
+    std::optional<ChainedElement> chain;
     // Offsets read directly, one shifted row each: single samples, and the
     // short span of a row that no group covers.
     std::vector<Shift> points;
@@ -61,6 +97,12 @@ Decomposition Decompose(std::span<const Shift> shifts);
 
 // Every offset the decomposition reads, as often as it reads it.
 std::vector<Shift> Recomposed(const Decomposition& plan);
+
+// The element as nested columns, or nothing when its columns do not nest.
+std::optional<ChainedElement> Chained(std::span<const Shift> shifts);
+
+// Every offset the chain reads, once each.
+std::vector<Shift> Recomposed(const ChainedElement& chain);
 
 // Decompose, remembered per thread for the last few elements, so that a
 // repeated call with the same element neither decomposes nor allocates.

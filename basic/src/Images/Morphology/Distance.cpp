@@ -57,14 +57,13 @@ using Operators::slotX;
 using Operators::slotY;
 using Operators::slotZ;
 
-// Calls `transform(grid, values)` on each volume of `in` read as 0 for the
-// background and infinity for the objects, and writes the values into
-// `out`.
+// Calls `transform(grid, values)` on each volume of `out`, read from `in`
+// as 0 for the background and infinity for the objects, and writes the
+// values into `out`.
 template <class Transform>
 void DistanceOf(const ImageRef& in, const ImageRef& out, Transform&& transform)
 {
-    const VolumeLayout layout = LayoutOf(in);
-    CheckSameLayout(layout, LayoutOf(out));
+    const VolumeLayout layout = SingleBandOutputLayout(LayoutOf(in), LayoutOf(out));
     std::vector<double> values(static_cast<std::size_t>(layout.grid.Count()));
     for (std::int64_t v = 0; v < layout.volumeCount; ++v) {
         ReadVolume(in, v, values.data());
@@ -291,8 +290,7 @@ bool IntegerEuclideanDistance(const ImageRef& in, const ImageRef& out)
         const System::NumericTypeEnum type = image->Format()->DataType();
         return type == System::ntComplexF || type == System::ntComplexD;
     };
-    const VolumeLayout layout = LayoutOf(in);
-    CheckSameLayout(layout, LayoutOf(out));
+    const VolumeLayout layout = SingleBandOutputLayout(LayoutOf(in), LayoutOf(out));
     if (isComplex(in) || isComplex(out) || !FitsIntegerTransform(layout.grid))
         return false;
     const Grid& grid = layout.grid;

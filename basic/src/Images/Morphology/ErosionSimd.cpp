@@ -1,7 +1,11 @@
 // The row folds of the fast erosion and dilation, once per instruction set
 // (Highway's foreach_target), dispatched at run time by the processor.
 #include "Images/Morphology/ErosionSimd.h"
+#include "Images/Morphology/Decomposition.h"
 #include "Images/Morphology/MorphologyKernels.h"
+#include "Images/Operators/SampleKinds.h"
+
+#include <algorithm>
 
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "Images/Morphology/ErosionSimd.cpp"
@@ -45,10 +49,18 @@ HWY_INLINE std::int64_t FoldVectors(D d, T* target, const T* const* sources, std
     // Integers start from the first source; floating samples from the
     // neutral value, so that a NaN in the first source is passed over too.
     constexpr bool fromNeutral = hwy::IsFloat<T>();
+    // The pointers in registers of their own: a store of bytes may alias
+    // anything that is not a local.
+    const T* local[Count != 0 ? Count : 1];
+    if constexpr (Count != 0)
+        for (std::size_t s = 0; s < Count; ++s)
+            local[s] = sources[s];
+    const T* const* from = Count != 0 ? local : sources;
     for (; i + lanes <= n; i += lanes) {
-        auto acc = fromNeutral ? hn::Set(d, neutral) : hn::LoadU(d, sources[0] + i);
+        auto acc = fromNeutral ? hn::Set(d, neutral) : hn::LoadU(d, from[0] + i);
+#pragma GCC unroll 8
         for (std::size_t s = fromNeutral ? 0 : 1; s < k; ++s)
-            acc = FoldVector<Maximum>(d, acc, hn::LoadU(d, sources[s] + i));
+            acc = FoldVector<Maximum>(d, acc, hn::LoadU(d, from[s] + i));
         if constexpr (Streamed)
             hn::Stream(acc, d, target + i);
         else
@@ -91,19 +103,205 @@ void FoldRowsOf(T* target, const T* const* sources, std::size_t count, std::int6
     }
 }
 
+// FoldRowsOf with the source count fixed where it is one of the common
+// ones: the 3 x 3 square folds 3 rows and 3 shifts, the disk of radius 2
+// 5 shifts.
+template <bool Maximum, class T>
+void FoldRowsCounted(T* target, const T* const* sources, std::size_t count, std::int64_t n, bool streamed)
+{
+    switch (count) {
+    case 2:
+        return FoldRowsOf<Maximum, 2>(target, sources, count, n, streamed);
+    case 3:
+        return FoldRowsOf<Maximum, 3>(target, sources, count, n, streamed);
+    case 5:
+        return FoldRowsOf<Maximum, 5>(target, sources, count, n, streamed);
+    default:
+        return FoldRowsOf<Maximum, 0>(target, sources, count, n, streamed);
+    }
+}
+
 template <bool Maximum, class T>
 void FoldRowsBy(void* target, const void* const* sources, std::size_t count, std::int64_t n, bool streamed)
 {
-    auto* to = static_cast<T*>(target);
-    const auto* from = reinterpret_cast<const T* const*>(sources);
-    switch (count) {
-    case 2:
-        return FoldRowsOf<Maximum, 2>(to, from, count, n, streamed);
-    case 3:
-        return FoldRowsOf<Maximum, 3>(to, from, count, n, streamed);
-    default:
-        return FoldRowsOf<Maximum, 0>(to, from, count, n, streamed);
+    FoldRowsCounted<Maximum>(static_cast<T*>(target), reinterpret_cast<const T* const*>(sources), count, n,
+                             streamed);
+}
+
+// Gathers sources and folds them into one target, at most AtOnce at a
+// time (the running result taking the first place of the next batch):
+// rows of one image lie a power of two apart as often as not, and many of
+// them read at once fall into the same cache sets.
+template <bool Maximum, std::size_t AtOnce, class T>
+class ChainFolder {
+public:
+    ChainFolder(T* target, std::int64_t n) : m_target(target), m_n(n) {}
+
+    void Add(const T* source)
+    {
+        if (m_count == AtOnce)
+            Fold(false);
+        m_sources[m_count++] = source;
     }
+    // Folds what is left; false when no source was ever added.
+    bool Finish(bool streamed)
+    {
+        if (m_count > (m_written ? 1u : 0u))
+            Fold(streamed);
+        return m_written;
+    }
+
+private:
+    void Fold(bool streamed)
+    {
+        FoldRowsCounted<Maximum>(m_target, m_sources, m_count, m_n, streamed);
+        m_written = true;
+        m_sources[0] = m_target;
+        m_count = 1;
+    }
+
+    T* m_target;
+    std::int64_t m_n;
+    const T* m_sources[AtOnce];
+    std::size_t m_count = 0;
+    bool m_written = false;
+};
+
+// Elements of up to this many rows fold all their stages in one sweep
+// along the row, each stage's result kept in a register and stored once;
+// more rows are folded stage by stage, a few at a time (ChainFolder).
+constexpr std::size_t mostSweptRows = 12;
+
+// Every stage of one output row in one sweep: `rows` are the input rows
+// inside the volume, stage k ending before rows[ends[k]]; the running fold
+// goes from stage to stage and is stored into buffers[k] after stage k.
+template <bool Maximum, class D, class T>
+HWY_INLINE std::int64_t SweepStages(D d, T* const* buffers, const T* const* rows, const std::size_t* ends,
+                                    std::size_t stages, std::int64_t i, std::int64_t n)
+{
+    const auto lanes = static_cast<std::int64_t>(hn::Lanes(d));
+    constexpr T neutral = Maximum ? Lowest<T>() : Highest<T>();
+    for (; i + lanes <= n; i += lanes) {
+        auto acc = hn::Set(d, neutral);
+        std::size_t s = 0;
+        for (std::size_t k = 0; k < stages; ++k) {
+            for (; s < ends[k]; ++s)
+                acc = FoldVector<Maximum>(d, acc, hn::LoadU(d, rows[s] + i));
+            hn::StoreU(acc, d, buffers[k] + i);
+        }
+    }
+    return i;
+}
+
+template <bool Maximum, class T>
+void SweepStagesOf(T* const* buffers, const T* const* rows, const std::size_t* ends, std::size_t stages,
+                   std::int64_t n)
+{
+    const hn::ScalableTag<T> d;
+    std::int64_t i = SweepStages<Maximum>(d, buffers, rows, ends, stages, 0, n);
+#if HWY_TARGET != HWY_SCALAR
+    if (n - i >= std::int64_t(16 / sizeof(T)))
+        i = SweepStages<Maximum>(hn::CappedTag<T, 16 / sizeof(T)>(), buffers, rows, ends, stages, i, n);
+    if constexpr (sizeof(T) < 8)
+        i = SweepStages<Maximum>(hn::CappedTag<T, 8 / sizeof(T)>(), buffers, rows, ends, stages, i, n);
+#endif
+    for (; i < n; ++i) {
+        T acc = Maximum ? Lowest<T>() : Highest<T>();
+        std::size_t s = 0;
+        for (std::size_t k = 0; k < stages; ++k) {
+            for (; s < ends[k]; ++s)
+                acc = FoldSample<Maximum>(acc, rows[s][i]);
+            buffers[k][i] = acc;
+        }
+    }
+}
+
+// Output row r (y + ny * z), a chunk of ChainChunkSamples samples at a
+// time: each stage is folded into its buffer over the chunk and `padding`
+// samples either side, then the terms from the buffers into the output.
+// The buffers stay small, so that they and the input rows that the next
+// output row reads again stay in the first level cache.
+template <bool Maximum, class T>
+void FoldChainRow(const ChainedElement& chain, const ChainBand<T>& band, std::int64_t r, bool swept)
+{
+    constexpr T neutral = Maximum ? Lowest<T>() : Highest<T>();
+    const std::size_t stages = chain.StageCount();
+    const std::int64_t y = r % band.ny, z = r / band.ny, nx = band.nx, padding = chain.padding;
+    const std::int64_t chunk = ChainChunkSamples(nx, sizeof(T));
+    const std::int64_t bufferSamples = ChainBufferSamples(padding, nx, sizeof(T));
+    // buffer(k) holds the chunk's first sample; the padding lies before it.
+    const auto buffer = [&](std::size_t k) {
+        return band.scratch + std::int64_t(k) * bufferSamples + ChainBufferLead(padding, sizeof(T));
+    };
+    // The rows inside the volume, stage k ending before rows[ends[k]]; a
+    // stage left with no row at all holds what the stages before it hold
+    // (neutral for the first).
+    const T* rows[mostSweptRows];
+    std::size_t ends[mostSweptRows], count = 0;
+    for (std::size_t k = 0; k < stages; ++k) {
+        for (std::size_t i = chain.StageBegin(k); i < chain.stageEnds[k]; ++i) {
+            const RowOffset& row = chain.rows[i];
+            const std::int64_t ry = y + row.dy, rz = z + row.dz;
+            if (ry >= 0 && ry < band.ny && rz >= 0 && rz < band.nz && swept)
+                rows[count++] = band.in + ry * band.inRowStride + rz * band.inPlaneStride;
+        }
+        ends[std::min(k, mostSweptRows - 1)] = count;
+    }
+    T* target = band.out + y * band.outRowStride + z * band.outPlaneStride;
+    for (std::int64_t x0 = 0; x0 < nx; x0 += chunk) {
+        const std::int64_t x1 = std::min(nx, x0 + chunk);
+        const std::int64_t from = std::max<std::int64_t>(0, x0 - padding), to = std::min(nx, x1 + padding);
+        // Outside the row reads as neutral.
+        for (std::size_t k = 0; k < stages; ++k) {
+            std::fill(buffer(k) - padding, buffer(k) + (from - x0), neutral);
+            std::fill(buffer(k) + (to - x0), buffer(k) + (x1 - x0) + padding, neutral);
+        }
+        if (swept) {
+            const T* sources[mostSweptRows];
+            T* targets[mostSweptRows];
+            for (std::size_t s = 0; s < count; ++s)
+                sources[s] = rows[s] + from;
+            for (std::size_t k = 0; k < stages; ++k)
+                targets[k] = buffer(k) + (from - x0);
+            SweepStagesOf<Maximum>(targets, sources, ends, stages, to - from);
+        } else
+            for (std::size_t k = 0; k < stages; ++k) {
+                ChainFolder<Maximum, 6, T> column(buffer(k) + (from - x0), to - from);
+                if (k > 0)
+                    column.Add(buffer(k - 1) + (from - x0));
+                for (std::size_t i = chain.StageBegin(k); i < chain.stageEnds[k]; ++i) {
+                    const RowOffset& row = chain.rows[i];
+                    const std::int64_t ry = y + row.dy, rz = z + row.dz;
+                    if (ry >= 0 && ry < band.ny && rz >= 0 && rz < band.nz)
+                        column.Add(band.in + ry * band.inRowStride + rz * band.inPlaneStride + from);
+                }
+                // Only the first stage can find no row in the volume.
+                if (!column.Finish(false))
+                    std::fill(buffer(k) + (from - x0), buffer(k) + (to - x0), neutral);
+            }
+        ChainFolder<Maximum, mostChainTerms + 1, T> terms(target + x0, x1 - x0);
+        for (const ChainedElement::Term& term : chain.terms)
+            terms.Add(buffer(term.stage) + term.dx);
+        terms.Finish(band.streamed);
+    }
+}
+
+template <bool Maximum, class T>
+void FoldChainBandOf(const ChainedElement& chain, const ChainBand<T>& band)
+{
+    const bool swept = chain.rows.size() <= mostSweptRows && chain.StageCount() <= mostSweptRows;
+    for (std::int64_t r = band.firstRow; r < band.lastRow; ++r)
+        FoldChainRow<Maximum>(chain, band, r, swept);
+}
+
+template <class T>
+void FoldChainBandTyped(const ChainedElement& chain, const void* band)
+{
+    const auto& typed = *static_cast<const ChainBand<T>*>(band);
+    if (typed.maximum)
+        FoldChainBandOf<true>(chain, typed);
+    else
+        FoldChainBandOf<false>(chain, typed);
 }
 
 template <class T>
@@ -116,33 +314,18 @@ void FoldRowsTyped(bool maximum, void* target, const void* const* sources, std::
         FoldRowsBy<false, T>(target, sources, count, n, streamed);
 }
 
-// `kind` is the position of the sample type in the list of FoldRows
-// overloads.
-void FoldRowsOfKind(int kind, bool maximum, void* target, const void* const* sources, std::size_t count,
-                    std::int64_t n, bool streamed)
+void FoldRowsOfKind(Operators::SampleKind kind, bool maximum, void* target, const void* const* sources,
+                    std::size_t count, std::int64_t n, bool streamed)
 {
-    switch (kind) {
-    case 0:
-        return FoldRowsTyped<std::int8_t>(maximum, target, sources, count, n, streamed);
-    case 1:
-        return FoldRowsTyped<std::uint8_t>(maximum, target, sources, count, n, streamed);
-    case 2:
-        return FoldRowsTyped<std::int16_t>(maximum, target, sources, count, n, streamed);
-    case 3:
-        return FoldRowsTyped<std::uint16_t>(maximum, target, sources, count, n, streamed);
-    case 4:
-        return FoldRowsTyped<std::int32_t>(maximum, target, sources, count, n, streamed);
-    case 5:
-        return FoldRowsTyped<std::uint32_t>(maximum, target, sources, count, n, streamed);
-    case 6:
-        return FoldRowsTyped<std::int64_t>(maximum, target, sources, count, n, streamed);
-    case 7:
-        return FoldRowsTyped<std::uint64_t>(maximum, target, sources, count, n, streamed);
-    case 8:
-        return FoldRowsTyped<float>(maximum, target, sources, count, n, streamed);
-    default:
-        return FoldRowsTyped<double>(maximum, target, sources, count, n, streamed);
-    }
+    Operators::DispatchSampleKind(kind, [&](auto tag) {
+        FoldRowsTyped<typename decltype(tag)::type>(maximum, target, sources, count, n, streamed);
+    });
+}
+
+void FoldChainBandOfKind(Operators::SampleKind kind, const ChainedElement& chain, const void* band)
+{
+    Operators::DispatchSampleKind(
+        kind, [&](auto tag) { FoldChainBandTyped<typename decltype(tag)::type>(chain, band); });
 }
 
 } // namespace Quilon_::Basic::Images::Morphology::HWY_NAMESPACE
@@ -161,24 +344,44 @@ namespace Quilon_::Basic::Images::Morphology {
 
 HWY_EXPORT(FoldRowsOfKind);
 
-#define QUILON_MORPHOLOGY_FOLD_ROWS(T, kind)                                                                 \
+#define QUILON_MORPHOLOGY_FOLD_ROWS(T)                                                                       \
     void FoldRows(bool maximum, T* target, const T* const* sources, std::size_t count, std::int64_t n,       \
                   bool streamed)                                                                             \
     {                                                                                                        \
         HWY_DYNAMIC_DISPATCH(FoldRowsOfKind)                                                                 \
-        (kind, maximum, target, reinterpret_cast<const void* const*>(sources), count, n, streamed);          \
+        (Operators::sampleKindOf<T>, maximum, target, reinterpret_cast<const void* const*>(sources), count,  \
+         n, streamed);                                                                                       \
     }
-QUILON_MORPHOLOGY_FOLD_ROWS(std::int8_t, 0)
-QUILON_MORPHOLOGY_FOLD_ROWS(std::uint8_t, 1)
-QUILON_MORPHOLOGY_FOLD_ROWS(std::int16_t, 2)
-QUILON_MORPHOLOGY_FOLD_ROWS(std::uint16_t, 3)
-QUILON_MORPHOLOGY_FOLD_ROWS(std::int32_t, 4)
-QUILON_MORPHOLOGY_FOLD_ROWS(std::uint32_t, 5)
-QUILON_MORPHOLOGY_FOLD_ROWS(std::int64_t, 6)
-QUILON_MORPHOLOGY_FOLD_ROWS(std::uint64_t, 7)
-QUILON_MORPHOLOGY_FOLD_ROWS(float, 8)
-QUILON_MORPHOLOGY_FOLD_ROWS(double, 9)
+QUILON_MORPHOLOGY_FOLD_ROWS(std::int8_t)
+QUILON_MORPHOLOGY_FOLD_ROWS(std::uint8_t)
+QUILON_MORPHOLOGY_FOLD_ROWS(std::int16_t)
+QUILON_MORPHOLOGY_FOLD_ROWS(std::uint16_t)
+QUILON_MORPHOLOGY_FOLD_ROWS(std::int32_t)
+QUILON_MORPHOLOGY_FOLD_ROWS(std::uint32_t)
+QUILON_MORPHOLOGY_FOLD_ROWS(std::int64_t)
+QUILON_MORPHOLOGY_FOLD_ROWS(std::uint64_t)
+QUILON_MORPHOLOGY_FOLD_ROWS(float)
+QUILON_MORPHOLOGY_FOLD_ROWS(double)
 #undef QUILON_MORPHOLOGY_FOLD_ROWS
+
+HWY_EXPORT(FoldChainBandOfKind);
+
+#define QUILON_MORPHOLOGY_FOLD_CHAIN_BAND(T)                                                                 \
+    void FoldChainBand(const ChainedElement& chain, const ChainBand<T>& band)                                \
+    {                                                                                                        \
+        HWY_DYNAMIC_DISPATCH(FoldChainBandOfKind)(Operators::sampleKindOf<T>, chain, &band);                 \
+    }
+QUILON_MORPHOLOGY_FOLD_CHAIN_BAND(std::int8_t)
+QUILON_MORPHOLOGY_FOLD_CHAIN_BAND(std::uint8_t)
+QUILON_MORPHOLOGY_FOLD_CHAIN_BAND(std::int16_t)
+QUILON_MORPHOLOGY_FOLD_CHAIN_BAND(std::uint16_t)
+QUILON_MORPHOLOGY_FOLD_CHAIN_BAND(std::int32_t)
+QUILON_MORPHOLOGY_FOLD_CHAIN_BAND(std::uint32_t)
+QUILON_MORPHOLOGY_FOLD_CHAIN_BAND(std::int64_t)
+QUILON_MORPHOLOGY_FOLD_CHAIN_BAND(std::uint64_t)
+QUILON_MORPHOLOGY_FOLD_CHAIN_BAND(float)
+QUILON_MORPHOLOGY_FOLD_CHAIN_BAND(double)
+#undef QUILON_MORPHOLOGY_FOLD_CHAIN_BAND
 
 // Here rather than beside the passes: this source is compiled on its own,
 // never in a batch with others, and the reference library's own geometry

@@ -184,9 +184,9 @@ void GeodesicDilateByElement(ImageRef marker, ImageRef mask, ImageRef out, Eleme
 void GeodesicDistanceWith(const ImageRef& mask, const ImageRef& seeds, const ImageRef& out,
                           const OptionalShifts& graph)
 {
-    const VolumeLayout layout = LayoutOf(mask);
-    CheckSameLayout(layout, LayoutOf(seeds));
-    CheckSameLayout(layout, LayoutOf(out));
+    const VolumeLayout masks = LayoutOf(mask);
+    CheckSameLayout(masks, LayoutOf(seeds));
+    const VolumeLayout layout = SingleBandOutputLayout(masks, LayoutOf(out));
     const auto count = static_cast<std::size_t>(layout.grid.Count());
     std::vector<double> inside(count), seed(count), steps(count);
     const std::vector<Shift> shifts = NeighboursOr(graph, layout.grid, false);

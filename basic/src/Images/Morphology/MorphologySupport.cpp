@@ -85,16 +85,11 @@ std::vector<Shift> ShiftsOf(Geometry::ICoordinatesCollection& points)
 
 VolumeLayout LayoutOf(const ImageRef& image)
 {
-    System::Ref<Geometry::ICoordinates> size = image->Size();
+    const Operators::SlotBlock block = Operators::SlotsOf(*image->Bitmap());
     VolumeLayout layout;
-    std::int64_t* extent[] = {&layout.grid.nx, &layout.grid.ny, &layout.grid.nz};
-    const AxisEnum spatial[] = {Geometry::aX, Geometry::aY, Geometry::aZ};
-    for (int i = 0; i < 3; ++i)
-        if (size->IndexOfAxis(spatial[i]) >= 0)
-            *extent[i] = size->Value(spatial[i]);
-    for (AxisEnum other : {Geometry::aT, Geometry::aB})
-        if (size->IndexOfAxis(other) >= 0)
-            layout.volumeCount *= size->Value(other);
+    layout.grid = {block.size[Operators::slotX], block.size[Operators::slotY], block.size[Operators::slotZ]};
+    layout.timeCount = block.size[Operators::slotT];
+    layout.volumeCount = layout.timeCount * block.size[Operators::slotB];
     if (layout.grid.Count() == 0)
         layout.volumeCount = 0;
     return layout;
@@ -108,6 +103,17 @@ void CheckSameLayout(const VolumeLayout& a, const VolumeLayout& b)
                      L"bands do not match",
                      a.grid.nx, a.grid.ny, a.grid.nz, a.volumeCount, b.grid.nx, b.grid.ny, b.grid.nz,
                      b.volumeCount);
+}
+
+VolumeLayout SingleBandOutputLayout(const VolumeLayout& in, const VolumeLayout& out)
+{
+    const bool bandsDropped =
+        out.volumeCount == out.timeCount && in.volumeCount > out.volumeCount && in.timeCount == out.timeCount;
+    if (!bandsDropped)
+        CheckSameLayout(in, out);
+    else
+        CheckSameLayout({in.grid, out.volumeCount, out.timeCount}, out);
+    return out;
 }
 
 void RaiseComplexInput(System::NumericTypeEnum type)

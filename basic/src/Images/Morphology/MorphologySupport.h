@@ -40,6 +40,8 @@ using ImageRef = System::Ref<Quilon_::Images::IImage>;
 struct VolumeLayout {
     Grid grid;
     std::int64_t volumeCount = 1;
+    // The volumes along T; the others are further bands.
+    std::int64_t timeCount = 1;
 };
 VolumeLayout LayoutOf(const ImageRef& image);
 
@@ -61,6 +63,14 @@ std::vector<Shift> DefaultNeighbours(const Grid& grid, bool fewest);
 // Raises unless the two images have the same spatial extent and number of
 // volumes.
 void CheckSameLayout(const VolumeLayout& a, const VolumeLayout& b);
+
+// The volumes to compute for an output in the grey category made after a
+// binary input: the input's, or, for a multi-band input whose output the
+// rules made without bands, one per time step. Volume v of such an output
+// is then read from volume v of the input, its first band: the band that
+// the library takes whenever it makes a single-band image of a multi-band
+// one. Raises when the two agree in neither way.
+VolumeLayout SingleBandOutputLayout(const VolumeLayout& in, const VolumeLayout& out);
 
 // Calls `kernel(grid, source, target)` for every volume of `in`, with
 // `source` its samples as T (the input's type) and `target` a buffer of

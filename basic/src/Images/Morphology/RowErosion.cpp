@@ -5,6 +5,7 @@
 #include "Images/Morphology/Decomposition.h"
 #include "Images/Morphology/ErosionSimd.h"
 #include "Images/Operators/OperatorSupport.h"
+#include "Images/Operators/SampleKinds.h"
 #include "System/Threading/Parallel.h"
 
 #include <hwy/cache_control.h>
@@ -176,40 +177,76 @@ bool FoldGroup(const Grid& grid, RowVolume<const T> in, const SpanGroup& group, 
 // about the size of the last level cache.
 constexpr std::int64_t streamedBytes = std::int64_t(8) << 20;
 
+// The scratch of one thread's chained bands, aligned to 64 bytes, kept
+// from call to call.
+template <class T>
+T* ChainScratchOf(std::int64_t samples)
+{
+    thread_local std::vector<std::uint64_t> words;
+    const auto needed = static_cast<std::size_t>((samples * std::int64_t(sizeof(T)) + 7) / 8 + 8);
+    if (words.size() < needed)
+        words.resize(needed);
+    const auto address = reinterpret_cast<std::uintptr_t>(words.data());
+    return reinterpret_cast<T*>((address + 63) / 64 * 64);
+}
+
 // Rows [firstRow, lastRow) of the pass, a row numbered y + ny * z.
 template <class T>
 void FoldRowRange(const Grid& grid, RowVolume<const T> in, RowVolume<T> out, const Decomposition& plan,
                   bool maximum, std::int64_t firstRow, std::int64_t lastRow)
 {
-    const FoldScratch<T> scratch =
-        FoldScratchOf<T>(plan.groups.empty() ? 0 : grid.nx + 2 * plan.padding, plan.widestFold + 2);
     // A large output goes past the caches: its rows are not read again
     // soon, and a line that is only written need not be read first. Only
     // the last write of a row is streamed.
     const bool stream = grid.Count() * std::int64_t(sizeof(T)) >= streamedBytes;
-    for (std::int64_t r = firstRow; r < lastRow; ++r) {
-        const std::int64_t y = r % grid.ny, z = r / grid.ny;
-        T* target = out.Row(y, z);
-        bool written = FoldPoints(grid, in, plan.points, y, z, maximum, stream && plan.groups.empty(), target,
-                                  scratch.sources);
-        for (const SpanGroup& group : plan.groups)
-            written |= FoldGroup(grid, in, group, plan.padding, y, z, maximum, written,
-                                 stream && &group == &plan.groups.back(), target, scratch);
-        if (!written)
-            std::fill(target, target + grid.nx, NeutralOf<T>(maximum));
+    if (plan.chain) {
+        const ChainedElement& chain = *plan.chain;
+        T* scratch = ChainScratchOf<T>(std::int64_t(chain.StageCount()) *
+                                       ChainBufferSamples(chain.padding, grid.nx, sizeof(T)));
+        FoldChainBand(chain, ChainBand<T>{in.data, in.rowStride, in.planeStride, out.data, out.rowStride,
+                                          out.planeStride, grid.nx, grid.ny, grid.nz, firstRow, lastRow,
+                                          maximum, stream, scratch});
+    } else {
+        const FoldScratch<T> scratch =
+            FoldScratchOf<T>(plan.groups.empty() ? 0 : grid.nx + 2 * plan.padding, plan.widestFold + 2);
+        for (std::int64_t r = firstRow; r < lastRow; ++r) {
+            const std::int64_t y = r % grid.ny, z = r / grid.ny;
+            T* target = out.Row(y, z);
+            bool written = FoldPoints(grid, in, plan.points, y, z, maximum, stream && plan.groups.empty(),
+                                      target, scratch.sources);
+            for (const SpanGroup& group : plan.groups)
+                written |= FoldGroup(grid, in, group, plan.padding, y, z, maximum, written,
+                                     stream && &group == &plan.groups.back(), target, scratch);
+            if (!written)
+                std::fill(target, target + grid.nx, NeutralOf<T>(maximum));
+        }
     }
     if (stream)
         hwy::FlushStream();
+}
+
+// The work of one output sample, in units of a pass that reads and writes
+// it once. A chained element of up to about 16 reads a sample costs what
+// such a pass costs (the input and the output move through memory once,
+// the folds in between stay in the cache), so that an image under about
+// 256 x 256 stays on the calling thread.
+std::int64_t SampleCostOf(const Decomposition& plan)
+{
+    if (plan.chain)
+        return 1 +
+               std::int64_t(plan.chain->rows.size() + plan.chain->StageCount() + plan.chain->terms.size()) /
+                   16;
+    return std::int64_t(plan.points.size() + 2 * plan.groups.size());
 }
 
 template <class T>
 void RunErosionPass(const Grid& grid, RowVolume<const T> in, RowVolume<T> out, const Decomposition& plan,
                     bool maximum)
 {
-    const auto cost = grid.nx * std::int64_t(plan.points.size() + 2 * plan.groups.size());
-    Threading::ParallelBands(grid.ny * grid.nz, cost, [&](std::int64_t firstRow, std::int64_t lastRow) {
-        FoldRowRange(grid, in, out, plan, maximum, firstRow, lastRow);
-    });
+    Threading::ParallelBands(grid.ny * grid.nz, grid.nx * SampleCostOf(plan),
+                             [&](std::int64_t firstRow, std::int64_t lastRow) {
+                                 FoldRowRange(grid, in, out, plan, maximum, firstRow, lastRow);
+                             });
 }
 
 template <class T>
@@ -258,19 +295,7 @@ std::shared_ptr<const Decomposition> PlanOfPass(const MorphologyPass& pass)
 template <class T>
 BitmapView<T> SlotViewOf(Quilon_::Images::IBitmap& bitmap)
 {
-    System::Ref<Quilon_::Geometry::ICoordinates> size = bitmap.Size();
-    const auto axes = static_cast<unsigned char>(size->Axes());
-    const std::vector<std::int64_t> strides = bitmap.Strides();
-    BitmapView<T> view;
-    view.data = reinterpret_cast<T*>(static_cast<char*>(bitmap.Memory()->Data()) + bitmap.Origin());
-    view.axisCount = maxViewAxes;
-    for (int slot = 0, index = 0; slot < maxViewAxes; ++slot)
-        if (axes & (1u << slot)) {
-            view.size[slot] = size->Value(std::int64_t(index));
-            view.stride[slot] = strides[std::size_t(index)] / std::int64_t(sizeof(T));
-            ++index;
-        }
-    return view;
+    return Operators::SlotViewOf<T>(bitmap);
 }
 
 template <class T>
@@ -286,8 +311,8 @@ bool RunRowPassesOf(Quilon_::Images::IBitmap& in, Quilon_::Images::IBitmap& out,
     const BitmapView<T> source = SlotViewOf<T>(in);
     const BitmapView<T> target = SlotViewOf<T>(out);
     const Grid grid{source.size[slotX], source.size[slotY], source.size[slotZ]};
-    if (source.size != target.size || grid.Count() == 0 ||
-        (grid.nx > 1 && (source.stride[slotX] != 1 || target.stride[slotX] != 1)))
+    if (source.size != target.size || grid.Count() == 0 || !Operators::DenseRows(source) ||
+        !Operators::DenseRows(target))
         return false;
     // An output that shares memory with the input is written only after
     // the last pass, from a scratch volume; one laid out differently from

@@ -1,5 +1,7 @@
 #include "Images/Operators/OperatorSupport.h"
 
+#include "Images/BitmapImpl.h"
+
 #include "Quilon_/Geometry/Coordinates.h"
 #include "Quilon_/Images/Format.h"
 #include "Quilon_/Images/StorageOrder.h"
@@ -34,23 +36,34 @@ void RaiseUnsupportedType(System::NumericTypeEnum type, const wchar_t* expected)
                  std::wstring(expected));
 }
 
+void RaiseSampleTypeMismatch(System::NumericTypeEnum type)
+{
+    QUILON_RAISE(L"Bitmap samples are not of the requested type: %1%", System::ToString(type));
+}
+
+SlotBlock SlotsOf(Quilon_::Images::IBitmap& bitmap)
+{
+    const SampleBlock block = BlockOf(bitmap);
+    SlotBlock slots;
+    slots.data = static_cast<char*>(block.data) + block.layout.origin;
+    slots.type = block.type;
+    for (int i = 0; i < block.layout.axisCount; ++i) {
+        const int slot = SlotOf(block.layout.axes[i]);
+        slots.size[slot] = block.layout.size[i];
+        slots.stride[slot] = block.layout.stride[i];
+    }
+    return slots;
+}
+
 AnyView AnyViewOf(const ImageRef& image)
 {
-    System::Ref<Quilon_::Images::IBitmap> bitmap = image->Bitmap();
-    System::Ref<Geometry::ICoordinates> size = bitmap->Size();
-    const std::vector<std::int64_t> strides = bitmap->Strides();
-    const unsigned axes = static_cast<unsigned char>(size->Axes());
+    const SlotBlock block = SlotsOf(*image->Bitmap());
     AnyView view;
-    view.type = bitmap->Format()->DataType();
+    view.type = block.type;
     view.bytes.axisCount = maxViewAxes;
-    view.bytes.data = static_cast<char*>(bitmap->Memory()->Data()) + bitmap->Origin();
-    for (int slot = 0, index = 0; slot < maxViewAxes; ++slot) {
-        if (!(axes & (1u << slot)))
-            continue;
-        view.bytes.size[slot] = size->Value(std::int64_t(index));
-        view.bytes.stride[slot] = strides[static_cast<std::size_t>(index)];
-        ++index;
-    }
+    view.bytes.data = block.data;
+    view.bytes.size = block.size;
+    view.bytes.stride = block.stride;
     return view;
 }
 

@@ -61,24 +61,47 @@ inline System::NumericTypeEnum DataTypeOf(const ImageRef& image)
     return image->Format()->DataType();
 }
 
+// A bitmap's samples with one slot per axis (see ViewOf), strides in
+// bytes. The reference library's own bitmaps are read from their layout,
+// without a call through the interface: no copy of the size, no vector of
+// strides, which on a small image cost more than the kernel.
+struct SlotBlock {
+    char* data = nullptr;
+    System::NumericTypeEnum type = System::ntUInt8;
+    Extent size{1, 1, 1, 1, 1};
+    Extent stride{0, 0, 0, 0, 0};
+};
+SlotBlock SlotsOf(Quilon_::Images::IBitmap& bitmap);
+
+// Raises "Bitmap samples are not of the requested type: %1%".
+[[noreturn]] void RaiseSampleTypeMismatch(System::NumericTypeEnum type);
+
+// The typed view of a bitmap, with one slot per axis; raises when its
+// samples are not of type T.
+template <class T>
+BitmapView<T> SlotViewOf(Quilon_::Images::IBitmap& bitmap)
+{
+    const SlotBlock block = SlotsOf(bitmap);
+    if (!DispatchSampleType(block.type, [](auto tag) {
+            return std::is_same_v<typename decltype(tag)::type, std::remove_const_t<T>>;
+        }))
+        RaiseSampleTypeMismatch(block.type);
+    BitmapView<T> view;
+    view.data = reinterpret_cast<T*>(block.data);
+    view.axisCount = maxViewAxes;
+    for (int slot = 0; slot < maxViewAxes; ++slot) {
+        view.size[slot] = block.size[slot];
+        view.stride[slot] = block.stride[slot] / std::int64_t(sizeof(T));
+    }
+    return view;
+}
+
 // Taken apart once per call, so that a kernel's loops never go through an
 // interface.
 template <class T>
 BitmapView<T> ViewOf(const ImageRef& image)
 {
-    const BitmapView<T> packed = BitmapView<T>::Of(image->Bitmap());
-    const unsigned axes = static_cast<unsigned char>(image->Size()->Axes());
-    BitmapView<T> view;
-    view.data = packed.data;
-    view.axisCount = maxViewAxes;
-    for (int slot = 0, index = 0; slot < maxViewAxes; ++slot) {
-        if (!(axes & (1u << slot)))
-            continue;
-        view.size[slot] = packed.size[index];
-        view.stride[slot] = packed.stride[index];
-        ++index;
-    }
-    return view;
+    return SlotViewOf<T>(*image->Bitmap());
 }
 
 // The samples of the view at `index` along `slot`: the same view with that

@@ -6,7 +6,9 @@
 #include <array>
 #include <cmath>
 #include <cstring>
+#include <initializer_list>
 #include <mutex>
+#include <optional>
 
 namespace Quilon_::Basic::Images::Operators::Pointwise {
 
@@ -16,18 +18,24 @@ namespace {
 // share any image out evenly, large enough that a block costs no overhead.
 constexpr std::int64_t pointwiseBlock = 4096;
 
-// The number of samples of `view` when they lie in one run, X fastest then
-// slot by slot, with no gaps; -1 otherwise.
-std::int64_t DenseCount(const AnyView& view, std::int64_t sampleBytes)
+// Results of this many bytes or more are written past the caches: they
+// would only push the inputs out of them.
+constexpr std::int64_t pointwiseStreamedBytes = std::int64_t(8) << 20;
+
+// Whether the results of `count` samples of `bytes` each are written past
+// the caches: large ones, whose inputs then share the result's alignment
+// (aligning the streamed stores would otherwise split every load of an
+// input across two cache lines).
+bool Streamed(std::int64_t count, std::int64_t bytes, const void* out,
+              std::initializer_list<const void*> inputs)
 {
-    std::int64_t expected = sampleBytes;
-    for (int slot = 0; slot < maxViewAxes; ++slot) {
-        const std::int64_t size = view.bytes.size[slot];
-        if (size != 1 && view.bytes.stride[slot] != expected)
-            return -1;
-        expected *= size;
-    }
-    return expected / sampleBytes;
+    if (count * bytes < pointwiseStreamedBytes)
+        return false;
+    constexpr std::uintptr_t line = 64;
+    for (const void* in : inputs)
+        if ((reinterpret_cast<std::uintptr_t>(in) - reinterpret_cast<std::uintptr_t>(out)) % line != 0)
+            return false;
+    return true;
 }
 
 bool SameExtent(const AnyView& a, const AnyView& b)
@@ -46,8 +54,9 @@ void ForEachBlock(std::int64_t count, Body&& body)
     });
 }
 
-// The samples t of type T with lower <= double(t) <= upper are those with
-// lo <= t <= hi; false when there are none.
+// The samples t of type T with lower <= t <= upper, compared exactly (as
+// the plain path does, in a compute type that holds every sample), are
+// those with lo <= t <= hi; false when there are none.
 template <class T>
 bool SelectedSampleRange(double lower, double upper, T& lo, T& hi)
 {
@@ -55,11 +64,14 @@ bool SelectedSampleRange(double lower, double upper, T& lo, T& hi)
         return false;
     if constexpr (std::is_integral_v<T>) {
         using L = std::numeric_limits<T>;
+        // The first double above the largest T: the largest T itself may
+        // not be a double.
+        constexpr double beyond = 2.0 * (static_cast<double>(L::max() / 2) + 1.0);
         const double first = std::ceil(lower), last = std::floor(upper);
-        if (first > last || first > double(L::max()) || last < double(L::lowest()))
+        if (first > last || first >= beyond || last < double(L::lowest()))
             return false;
-        lo = first < double(L::lowest()) ? L::lowest() : static_cast<T>(first);
-        hi = last > double(L::max()) ? L::max() : static_cast<T>(last);
+        lo = first <= double(L::lowest()) ? L::lowest() : static_cast<T>(first);
+        hi = last >= beyond ? L::max() : static_cast<T>(last);
     } else if constexpr (std::is_same_v<T, float>) {
         // The nearest floats inside the bounds; beyond float's range a bound
         // becomes an infinity, which compares as the double bound does.
@@ -80,58 +92,33 @@ bool SelectedSampleRange(double lower, double upper, T& lo, T& hi)
     return true;
 }
 
-template <class T>
-void ThresholdRun(const T* in, std::uint8_t* out, std::int64_t count, T lo, T hi, std::uint8_t set)
-{
-    for (std::int64_t i = 0; i < count; ++i)
-        out[i] = lo <= in[i] && in[i] <= hi ? set : 0;
-}
-
-// The exact types whose samples are the C++ types they are viewed as (the
-// 1-, 2- and 4-bit types are viewed as bytes but saturate otherwise).
-bool IsPlainSampleType(System::NumericTypeEnum type)
-{
-    switch (type) {
-    case System::ntUInt8:
-    case System::ntInt8:
-    case System::ntUInt16:
-    case System::ntInt16:
-    case System::ntUInt32:
-    case System::ntInt32:
-    case System::ntFloat:
-    case System::ntDouble:
-        return true;
-    default:
-        return false;
-    }
-}
-
 } // namespace
 
 bool Threshold(const ImageRef& source, const ImageRef& destination, double lower, double upper)
 {
     const System::NumericTypeEnum type = DataTypeOf(source);
-    if (DataTypeOf(destination) != System::ntUInt8 || !IsPlainSampleType(type))
+    const std::optional<SampleKind> kind = SampleKindOf(type);
+    if (DataTypeOf(destination) != System::ntUInt8 || !kind)
         return false;
     const AnyView in = AnyViewOf(source);
     const AnyView out = AnyViewOf(destination);
-    const std::int64_t count = DenseCount(in, SampleBytes(type));
-    if (count < 0 || !SameExtent(in, out) || DenseCount(out, 1) != count)
+    const std::int64_t count = DenseRun(in.bytes, SampleKindBytes(*kind));
+    if (count < 0 || !SameExtent(in, out) || DenseRun(out.bytes) != count)
         return false;
     auto* const result = reinterpret_cast<std::uint8_t*>(out.bytes.data);
     const std::uint8_t set = SetSample<std::uint8_t>();
-    DispatchRealSampleType(type, [&](auto tag) {
+    DispatchSampleKind(*kind, [&](auto tag) {
         using T = typename decltype(tag)::type;
         const T* const samples = reinterpret_cast<const T*>(in.bytes.data);
         T lo{}, hi{};
         const bool any = SelectedSampleRange(lower, upper, lo, hi);
+        const bool streamed = Streamed(count, 1, result, {samples});
         ForEachBlock(count, [&](std::int64_t first, std::int64_t last) {
-            if (!any)
-                std::memset(result + first, 0, static_cast<std::size_t>(last - first));
-            else if constexpr (std::is_same_v<T, std::uint8_t>)
-                ThresholdBytes(samples + first, result + first, last - first, lo, hi, set);
+            if (any)
+                ThresholdSamples(*kind, samples + first, result + first, last - first, &lo, &hi, set,
+                                 streamed);
             else
-                ThresholdRun(samples + first, result + first, last - first, lo, hi, set);
+                std::memset(result + first, 0, static_cast<std::size_t>(last - first));
         });
     });
     return true;
@@ -140,41 +127,20 @@ bool Threshold(const ImageRef& source, const ImageRef& destination, double lower
 bool Sum(const ImageRef& a, const ImageRef& b, const ImageRef& output, bool subtract)
 {
     const System::NumericTypeEnum type = DataTypeOf(output);
-    if (DataTypeOf(a) != type || DataTypeOf(b) != type)
+    const std::optional<SampleKind> kind = SampleKindOf(type);
+    if (DataTypeOf(a) != type || DataTypeOf(b) != type || !kind)
         return false;
-    SumType kind;
-    switch (type) {
-    case System::ntUInt8:
-        kind = SumType::uint8;
-        break;
-    case System::ntInt8:
-        kind = SumType::int8;
-        break;
-    case System::ntUInt16:
-        kind = SumType::uint16;
-        break;
-    case System::ntInt16:
-        kind = SumType::int16;
-        break;
-    case System::ntFloat:
-        kind = SumType::float32;
-        break;
-    case System::ntDouble:
-        kind = SumType::float64;
-        break;
-    default:
-        return false;
-    }
     const AnyView x = AnyViewOf(a), y = AnyViewOf(b), z = AnyViewOf(output);
-    const std::int64_t bytes = SampleBytes(type);
-    const std::int64_t count = DenseCount(z, bytes);
-    if (count < 0 || !SameExtent(x, z) || !SameExtent(y, z) || DenseCount(x, bytes) != count ||
-        DenseCount(y, bytes) != count)
+    const std::int64_t bytes = SampleKindBytes(*kind);
+    const std::int64_t count = DenseRun(z.bytes, bytes);
+    if (count < 0 || !SameExtent(x, z) || !SameExtent(y, z) || DenseRun(x.bytes, bytes) != count ||
+        DenseRun(y.bytes, bytes) != count)
         return false;
+    const bool streamed = Streamed(count, bytes, z.bytes.data, {x.bytes.data, y.bytes.data});
     ForEachBlock(count, [&](std::int64_t first, std::int64_t last) {
         const std::int64_t offset = first * bytes;
-        SumSamples(kind, subtract, x.bytes.data + offset, y.bytes.data + offset, z.bytes.data + offset,
-                   last - first);
+        SumSamples(*kind, subtract, x.bytes.data + offset, y.bytes.data + offset, z.bytes.data + offset,
+                   last - first, streamed);
     });
     return true;
 }
@@ -218,33 +184,113 @@ void CountWords(const std::uint16_t* samples, std::int64_t count, std::int64_t* 
         ++counts[samples[i]];
 }
 
-} // namespace
-
-bool CountValues(const ImageRef& image, std::vector<std::int64_t>& counts)
+// As CountBytes, over the samples whose `selected` is 1 (the others have 0):
+// added rather than tested, so that a mask of random shape costs no
+// mispredicted branch.
+void CountSelectedBytes(const std::uint8_t* samples, const std::uint8_t* selected, std::int64_t count,
+                        std::int64_t* counts)
 {
-    const System::NumericTypeEnum type = DataTypeOf(image);
-    const bool bytes = type == System::ntUInt8 || type == System::ntInt8;
-    if (!bytes && type != System::ntUInt16 && type != System::ntInt16)
-        return false;
-    const AnyView view = AnyViewOf(image);
-    const std::int64_t size = bytes ? 1 : 2;
-    const std::int64_t count = DenseCount(view, size);
-    if (count < 0)
-        return false;
-    const std::size_t values = bytes ? 256 : 65536;
+    std::array<std::array<std::uint32_t, 256>, 2> tables{};
+    std::int64_t i = 0;
+    for (; i + 2 <= count; i += 2) {
+        tables[0][samples[i]] += selected[i];
+        tables[1][samples[i + 1]] += selected[i + 1];
+    }
+    for (; i < count; ++i)
+        tables[0][samples[i]] += selected[i];
+    for (int value = 0; value < 256; ++value)
+        counts[value] += std::int64_t(tables[0][value]) + tables[1][value];
+}
+
+void CountSelectedWords(const std::uint16_t* samples, const std::uint8_t* selected, std::int64_t count,
+                        std::int64_t* counts)
+{
+    for (std::int64_t i = 0; i < count; ++i)
+        counts[samples[i]] += selected[i];
+}
+
+// The table of an image's 8- or 16-bit samples: 256 or 65536 entries, or
+// 0 for other types.
+std::size_t ValueTableSize(System::NumericTypeEnum type)
+{
+    switch (type) {
+    case System::ntUInt8:
+    case System::ntInt8:
+        return 256;
+    case System::ntUInt16:
+    case System::ntInt16:
+        return 65536;
+    default:
+        return 0;
+    }
+}
+
+// Calls count(first, last, part) over the blocks of [0, count), each band
+// with its own table `part` of `values` entries, added into `counts`.
+template <class CountBlock>
+void CountInBands(std::int64_t count, std::size_t values, std::vector<std::int64_t>& counts,
+                  CountBlock&& countBlock)
+{
     counts.assign(values, 0);
     std::mutex merging;
     ForEachBlock(count, [&](std::int64_t first, std::int64_t last) {
         std::vector<std::int64_t> part(values, 0);
-        if (bytes)
-            CountBytes(reinterpret_cast<const std::uint8_t*>(view.bytes.data) + first, last - first,
-                       part.data());
-        else
-            CountWords(reinterpret_cast<const std::uint16_t*>(view.bytes.data) + first, last - first,
-                       part.data());
+        countBlock(first, last, part.data());
         std::lock_guard lock(merging);
         for (std::size_t value = 0; value < values; ++value)
             counts[value] += part[value];
+    });
+}
+
+} // namespace
+
+bool CountValues(const ImageRef& image, std::vector<std::int64_t>& counts)
+{
+    const std::size_t values = ValueTableSize(DataTypeOf(image));
+    const std::int64_t size = values == 256 ? 1 : 2;
+    const AnyView view = AnyViewOf(image);
+    const std::int64_t count = values == 0 ? -1 : DenseRun(view.bytes, size);
+    if (count < 0)
+        return false;
+    const char* const data = view.bytes.data;
+    CountInBands(count, values, counts, [&](std::int64_t first, std::int64_t last, std::int64_t* part) {
+        if (size == 1)
+            CountBytes(reinterpret_cast<const std::uint8_t*>(data) + first, last - first, part);
+        else
+            CountWords(reinterpret_cast<const std::uint16_t*>(data) + first, last - first, part);
+    });
+    return true;
+}
+
+bool CountValues(const ImageRef& image, const ImageRef& mask, std::vector<std::int64_t>& counts)
+{
+    const std::size_t values = ValueTableSize(DataTypeOf(image));
+    // Only "not 0" is asked of the mask: its 1-, 2- and 4-bit types read as
+    // the bytes they are stored in.
+    const System::NumericTypeEnum maskType = DataTypeOf(mask);
+    const std::optional<SampleKind> maskKind =
+        maskType == System::ntUInt1 || maskType == System::ntUInt2 || maskType == System::ntUInt4
+            ? SampleKind::u8
+            : SampleKindOf(maskType);
+    if (values == 0 || !maskKind)
+        return false;
+    const std::int64_t size = values == 256 ? 1 : 2, maskSize = SampleKindBytes(*maskKind);
+    const AnyView view = AnyViewOf(image), maskView = AnyViewOf(mask);
+    const std::int64_t count = DenseRun(view.bytes, size);
+    if (count < 0 || !SameExtent(view, maskView) || DenseRun(maskView.bytes, maskSize) != count)
+        return false;
+    CountInBands(count, values, counts, [&](std::int64_t first, std::int64_t last, std::int64_t* part) {
+        std::array<std::uint8_t, pointwiseBlock> selected;
+        for (std::int64_t start = first; start < last; start += pointwiseBlock) {
+            const std::int64_t n = std::min(last - start, pointwiseBlock);
+            MarkNonZero(*maskKind, maskView.bytes.data + start * maskSize, selected.data(), n);
+            if (size == 1)
+                CountSelectedBytes(reinterpret_cast<const std::uint8_t*>(view.bytes.data) + start,
+                                   selected.data(), n, part);
+            else
+                CountSelectedWords(reinterpret_cast<const std::uint16_t*>(view.bytes.data) + start,
+                                   selected.data(), n, part);
+        }
     });
     return true;
 }
@@ -252,10 +298,11 @@ bool CountValues(const ImageRef& image, std::vector<std::int64_t>& counts)
 bool Extremes(const ImageRef& image, double& low, double& high)
 {
     const System::NumericTypeEnum type = DataTypeOf(image);
-    if (!IsPlainSampleType(type))
+    const std::optional<SampleKind> kind = SampleKindOf(type);
+    if (!kind)
         return false;
     const AnyView view = AnyViewOf(image);
-    const std::int64_t count = DenseCount(view, SampleBytes(type));
+    const std::int64_t count = DenseRun(view.bytes, SampleKindBytes(*kind));
     if (count < 0)
         return false;
     // Each band's extremes, folded in the order of the bands, so that of
@@ -266,7 +313,7 @@ bool Extremes(const ImageRef& image, double& low, double& high)
     };
     std::vector<BandExtremes> bands;
     std::mutex merging;
-    DispatchRealSampleType(type, [&](auto tag) {
+    DispatchSampleKind(*kind, [&](auto tag) {
         using T = typename decltype(tag)::type;
         const T* const samples = reinterpret_cast<const T*>(view.bytes.data);
         ForEachBlock(count, [&](std::int64_t first, std::int64_t last) {

@@ -182,12 +182,15 @@ long double EntropyLevel(const ValueCounts<C>& h)
     return h.values[split];
 }
 
-// The counts of an image of 8- or 16-bit integers, from a table by value
-// rather than by sorting; the same counts as CountValues.
-bool CountValuesByTable(const ImageRef& source, ValueCounts<double>& h)
+// The counts of an image of 8- or 16-bit integers where the mask, if any,
+// is set, from a table by value rather than by sorting; the same counts as
+// CountValues.
+bool CountValuesByTable(const ImageRef& source, const MaskRef& mask, ValueCounts<double>& h)
 {
     std::vector<std::int64_t> table;
-    if (!Pointwise::CountValues(source, table))
+    const bool counted =
+        mask ? Pointwise::CountValues(source, ImageRef(mask), table) : Pointwise::CountValues(source, table);
+    if (!counted)
         return false;
     const bool isSigned = DataTypeOf(source) == System::ntInt8 || DataTypeOf(source) == System::ntInt16;
     const auto size = static_cast<std::int64_t>(table.size());
@@ -209,7 +212,7 @@ void LevelThreshold(const ImageRef& source, const ImageRef& destination, const M
                     Level&& levelOf)
 {
     ValueCounts<double> table;
-    if (!mask && CountValuesByTable(source, table)) {
+    if (CountValuesByTable(source, mask, table)) {
         const long double level = levelOf(table);
         // The level is one of the (integer) values: above it means from the
         // next integer on.

@@ -39,8 +39,8 @@ public:
 
     bool Apply(std::vector<System::Any>& arguments, RuleFailures& failures) override
     {
-        System::Ref<IImage> r = Detail::ImageAt(arguments, reference);
-        System::Ref<IImage> t = Detail::ImageAt(arguments, image);
+        IImage& r = Detail::BorrowedImageAt(arguments, reference);
+        IImage& t = Detail::BorrowedImageAt(arguments, image);
         return AxesAgree(t, r, failures) && TypesAgree(t, r, failures) && ColorsAgree(t, r, failures);
     }
 
@@ -51,13 +51,13 @@ public:
     }
 
 private:
-    bool AxesAgree(const System::Ref<IImage>& t, const System::Ref<IImage>& r, RuleFailures& failures) const
+    bool AxesAgree(IImage& t, IImage& r, RuleFailures& failures) const
     {
         // Sizes are copies: read them only when the word asks for a test.
         if (!(options & mcAxesIgnoringBand))
             return true;
-        const Quilon_::Geometry::Axes axesT = t->Size()->Axes();
-        const Quilon_::Geometry::Axes axesR = r->Size()->Axes();
+        const Quilon_::Geometry::Axes axesT = t.Size()->Axes();
+        const Quilon_::Geometry::Axes axesR = r.Size()->Axes();
         bool differ = false;
         if ((options & mcAxesExact) == mcAxesExact)
             differ = axesT != axesR;
@@ -70,10 +70,10 @@ private:
 
     // The "contain" text goes with the test of equality and the "be" text
     // with the test of containment; callers see them so, and they stay.
-    bool TypesAgree(const System::Ref<IImage>& t, const System::Ref<IImage>& r, RuleFailures& failures) const
+    bool TypesAgree(IImage& t, IImage& r, RuleFailures& failures) const
     {
-        const System::NumericTypeEnum typeT = t->Format()->DataType();
-        const System::NumericTypeEnum typeR = r->Format()->DataType();
+        const System::NumericTypeEnum typeT = t.Format()->DataType();
+        const System::NumericTypeEnum typeR = r.Format()->DataType();
         if (options & mcSameType) {
             if (typeT != typeR)
                 return Refuse(failures, image, L"Image data type should contain '%1%'",
@@ -85,9 +85,9 @@ private:
         return true;
     }
 
-    bool ColorsAgree(const System::Ref<IImage>& t, const System::Ref<IImage>& r, RuleFailures& failures) const
+    bool ColorsAgree(IImage& t, IImage& r, RuleFailures& failures) const
     {
-        if (!(options & mcColorSpace) || SameColorSpace(t->Format(), r->Format()))
+        if (!(options & mcColorSpace) || SameColorSpace(t.Format(), r.Format()))
             return true;
         return Refuse(failures, image, L"Color spaces do not match");
     }

@@ -23,8 +23,8 @@ public:
 
     bool Apply(std::vector<System::Any>& arguments, RuleFailures& failures) override
     {
-        System::Ref<IImage> image = Detail::ImageAt(arguments, index);
-        const System::NumericTypeEnum t = image->Format()->DataType();
+        IImage& image = Detail::BorrowedImageAt(arguments, index);
+        const System::NumericTypeEnum t = image.Format()->DataType();
         if (integral && !System::IsInteger(t))
             return Refuse(failures, index, L"Invalid image data type '%1%': integral type expected",
                           System::ToString(t));
@@ -35,7 +35,7 @@ public:
             return Refuse(failures, index, L"Invalid image data type '%1%': scalar type expected",
                           System::ToString(t));
         // The axis counts, not its extent: a band axis of one value fails.
-        if (singleBand && Detail::HasBand(image->Size()->Axes()))
+        if (singleBand && Detail::HasBand(image.Size()->Axes()))
             return Refuse(failures, index, L"Single band image expected");
         return true;
     }

@@ -12,6 +12,7 @@
 
 #include <cstdint>
 #include <string>
+#include <typeinfo>
 #include <vector>
 
 namespace Quilon_::Images::Functions::Rules::Detail {
@@ -21,6 +22,23 @@ namespace Quilon_::Images::Functions::Rules::Detail {
 inline System::Ref<IImage> ImageAt(const std::vector<System::Any>& arguments, std::int64_t index)
 {
     return arguments.at(static_cast<std::size_t>(index)).CastTo<System::Ref<IImage>>();
+}
+
+// ImageAt for a rule that only reads the image while it runs: the image
+// boxed at `index`, without a reference of its own (the box keeps it
+// alive). Anything ImageAt refuses goes through ImageAt, and raises alike.
+inline IImage& BorrowedImageAt(const std::vector<System::Any>& arguments, std::int64_t index)
+{
+    using Object = System::Pointer<System::Interface, 0>;
+    const System::Any& argument = arguments.at(static_cast<std::size_t>(index));
+    if (const System::Detail::AnyHolderBase* holder = argument.Holder())
+        if (const void* value = holder->ValuePointer(typeid(Object)))
+            if (IImage* image =
+                    System::Detail::InterfaceCast<IImage>(static_cast<const Object*>(value)->Get()))
+                return *image;
+    // The box keeps the object alive after the reference that ImageAt
+    // returns is gone.
+    return *ImageAt(arguments, index);
 }
 
 // The image that `argument` holds, through any wrapper; null when it holds
