@@ -352,16 +352,7 @@ HWY_EXPORT(FoldRowsOfKind);
         (Operators::sampleKindOf<T>, maximum, target, reinterpret_cast<const void* const*>(sources), count,  \
          n, streamed);                                                                                       \
     }
-QUILON_MORPHOLOGY_FOLD_ROWS(std::int8_t)
-QUILON_MORPHOLOGY_FOLD_ROWS(std::uint8_t)
-QUILON_MORPHOLOGY_FOLD_ROWS(std::int16_t)
-QUILON_MORPHOLOGY_FOLD_ROWS(std::uint16_t)
-QUILON_MORPHOLOGY_FOLD_ROWS(std::int32_t)
-QUILON_MORPHOLOGY_FOLD_ROWS(std::uint32_t)
-QUILON_MORPHOLOGY_FOLD_ROWS(std::int64_t)
-QUILON_MORPHOLOGY_FOLD_ROWS(std::uint64_t)
-QUILON_MORPHOLOGY_FOLD_ROWS(float)
-QUILON_MORPHOLOGY_FOLD_ROWS(double)
+QUILON_FOR_EACH_SAMPLE_TYPE(QUILON_MORPHOLOGY_FOLD_ROWS)
 #undef QUILON_MORPHOLOGY_FOLD_ROWS
 
 HWY_EXPORT(FoldChainBandOfKind);
@@ -371,16 +362,7 @@ HWY_EXPORT(FoldChainBandOfKind);
     {                                                                                                        \
         HWY_DYNAMIC_DISPATCH(FoldChainBandOfKind)(Operators::sampleKindOf<T>, chain, &band);                 \
     }
-QUILON_MORPHOLOGY_FOLD_CHAIN_BAND(std::int8_t)
-QUILON_MORPHOLOGY_FOLD_CHAIN_BAND(std::uint8_t)
-QUILON_MORPHOLOGY_FOLD_CHAIN_BAND(std::int16_t)
-QUILON_MORPHOLOGY_FOLD_CHAIN_BAND(std::uint16_t)
-QUILON_MORPHOLOGY_FOLD_CHAIN_BAND(std::int32_t)
-QUILON_MORPHOLOGY_FOLD_CHAIN_BAND(std::uint32_t)
-QUILON_MORPHOLOGY_FOLD_CHAIN_BAND(std::int64_t)
-QUILON_MORPHOLOGY_FOLD_CHAIN_BAND(std::uint64_t)
-QUILON_MORPHOLOGY_FOLD_CHAIN_BAND(float)
-QUILON_MORPHOLOGY_FOLD_CHAIN_BAND(double)
+QUILON_FOR_EACH_SAMPLE_TYPE(QUILON_MORPHOLOGY_FOLD_CHAIN_BAND)
 #undef QUILON_MORPHOLOGY_FOLD_CHAIN_BAND
 
 // Here rather than beside the passes: this source is compiled on its own,

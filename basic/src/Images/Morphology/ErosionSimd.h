@@ -30,6 +30,8 @@
 //   // scratch: plan.chain->StageCount() * ChainBufferSamples(plan.chain->padding, width, 1) samples
 #pragma once
 
+#include "Images/Operators/SampleKinds.h"
+
 #include <cstddef>
 #include <cstdint>
 
@@ -82,30 +84,12 @@ inline std::int64_t ChainBufferSamples(std::int64_t padding, std::int64_t nx, st
 #define QUILON_MORPHOLOGY_FOLD_ROWS(T)                                                                       \
     void FoldRows(bool maximum, T* target, const T* const* sources, std::size_t count, std::int64_t n,       \
                   bool streamed = false);
-QUILON_MORPHOLOGY_FOLD_ROWS(std::int8_t)
-QUILON_MORPHOLOGY_FOLD_ROWS(std::uint8_t)
-QUILON_MORPHOLOGY_FOLD_ROWS(std::int16_t)
-QUILON_MORPHOLOGY_FOLD_ROWS(std::uint16_t)
-QUILON_MORPHOLOGY_FOLD_ROWS(std::int32_t)
-QUILON_MORPHOLOGY_FOLD_ROWS(std::uint32_t)
-QUILON_MORPHOLOGY_FOLD_ROWS(std::int64_t)
-QUILON_MORPHOLOGY_FOLD_ROWS(std::uint64_t)
-QUILON_MORPHOLOGY_FOLD_ROWS(float)
-QUILON_MORPHOLOGY_FOLD_ROWS(double)
+QUILON_FOR_EACH_SAMPLE_TYPE(QUILON_MORPHOLOGY_FOLD_ROWS)
 #undef QUILON_MORPHOLOGY_FOLD_ROWS
 
 #define QUILON_MORPHOLOGY_FOLD_CHAIN_BAND(T)                                                                 \
     void FoldChainBand(const ChainedElement& chain, const ChainBand<T>& band);
-QUILON_MORPHOLOGY_FOLD_CHAIN_BAND(std::int8_t)
-QUILON_MORPHOLOGY_FOLD_CHAIN_BAND(std::uint8_t)
-QUILON_MORPHOLOGY_FOLD_CHAIN_BAND(std::int16_t)
-QUILON_MORPHOLOGY_FOLD_CHAIN_BAND(std::uint16_t)
-QUILON_MORPHOLOGY_FOLD_CHAIN_BAND(std::int32_t)
-QUILON_MORPHOLOGY_FOLD_CHAIN_BAND(std::uint32_t)
-QUILON_MORPHOLOGY_FOLD_CHAIN_BAND(std::int64_t)
-QUILON_MORPHOLOGY_FOLD_CHAIN_BAND(std::uint64_t)
-QUILON_MORPHOLOGY_FOLD_CHAIN_BAND(float)
-QUILON_MORPHOLOGY_FOLD_CHAIN_BAND(double)
+QUILON_FOR_EACH_SAMPLE_TYPE(QUILON_MORPHOLOGY_FOLD_CHAIN_BAND)
 #undef QUILON_MORPHOLOGY_FOLD_CHAIN_BAND
 
 } // namespace Quilon_::Basic::Images::Morphology

@@ -143,6 +143,15 @@ constexpr std::int64_t SampleKindBytes(SampleKind kind) noexcept
     }
 }
 
+// Applies M to the C++ type of each kind: the declarations and explicit
+// definitions of a kernel written once for all ten types, e.g.
+// QUILON_FOR_EACH_SAMPLE_TYPE(DECLARE_FOLD_ROWS).
+// clang-format off
+#define QUILON_FOR_EACH_SAMPLE_TYPE(M) \
+    M(std::int8_t) M(std::uint8_t) M(std::int16_t) M(std::uint16_t) M(std::int32_t) M(std::uint32_t) \
+    M(std::int64_t) M(std::uint64_t) M(float) M(double)
+// clang-format on
+
 // Calls function(std::type_identity<T>{}) with T the C++ type of `kind`,
 // and returns what it returns. In a kernel source this instantiates the
 // kernel once per kind and instruction set: a kernel that has a vectorised
