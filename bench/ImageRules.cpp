@@ -13,6 +13,7 @@
 #include "Quilon_/Images/Functions/Rules/MakeImageCompatible.h"
 #include "Quilon_/Images/Image.h"
 #include "Quilon_/Images/Morphology/Basic/Functions.h"
+#include "Quilon_/Images/Segmentation/Functions.h"
 #include "Quilon_/Library.h"
 #include "Quilon_/System/Functions/RuleChain.h"
 #include "Quilon_/System/String.h"
@@ -43,10 +44,15 @@ void FillChain()
         .AssignTo(Ruled);
 }
 
-ImageRef SmallImage()
+ImageRef SquareImage(std::int64_t side)
 {
     auto format = Images::UniformFormat::New(Images::StorageOrder::New(L"XY"));
-    return Images::Image::New(Geometry::Coordinates::New(8, 8, Geometry::Axes::aXY), format);
+    return Images::Image::New(Geometry::Coordinates::New(side, side, Geometry::Axes::aXY), format);
+}
+
+ImageRef SmallImage()
+{
+    return SquareImage(8);
 }
 
 template <class Operator>
@@ -84,6 +90,17 @@ void BM_Erode_Real3x3Square(benchmark::State& state)
         Images::Morphology::Basic::Functions::Erode(input, output, square);
 }
 BENCHMARK(BM_Erode_Real3x3Square);
+
+// The catalogue's Threshold, whose chain also makes a binary output: on
+// 8 x 8 the call alone, on 256 x 256 the call beside a little work.
+void BM_Threshold_Real(benchmark::State& state)
+{
+    ImageRef input = SquareImage(state.range(0));
+    ImageRef output = SquareImage(state.range(0));
+    for (auto _ : state)
+        Images::Segmentation::Functions::Threshold(input, output, 128.0);
+}
+BENCHMARK(BM_Threshold_Real)->Arg(8)->Arg(256);
 
 } // namespace
 

@@ -33,6 +33,7 @@
 #include "Quilon_/Images/Segmentation/Functions.h"
 #include "Quilon_/Images/StorageOrder.h"
 #include "Quilon_/Library.h"
+#include "Quilon_/Math/Range.h"
 #include "Quilon_/Measurements/Histogram.h"
 #include "Quilon_/System/Exception.h"
 #include "Quilon_/System/Memory.h"
@@ -51,6 +52,7 @@
 #endif
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstdint>
 #include <cstdio>
@@ -402,6 +404,19 @@ void AddMainRows()
         Rows().push_back(row);
     }
     {
+        // 16-bit samples spread over the whole range (OpenCV takes them for
+        // windows of 3 and 5).
+        cv::Mat words;
+        Grey().convertTo(words, CV_16U, 257.0);
+        auto b = Make(words, ImageOf(words));
+        Row row;
+        row.name = "Median3x3_16bit";
+        row.toolkit = [b] { Filtering::Median(b->input, b->output, std::int64_t(3)); };
+        row.peer = [b] { cv::medianBlur(b->src, b->dst, 3); };
+        row.compare = [b] { return Compare(View(b->output), b->dst); };
+        Rows().push_back(row);
+    }
+    {
         // Objects where the grey value is at least 4: about 1.6 % background
         // spread at random, distances up to about 10. The output is float on
         // both sides; OpenCV's precise mask is the exact Euclidean distance.
@@ -474,6 +489,31 @@ void AddMainRows()
         row.compare = [b] { return Compare(View(b->output), b->dst); };
         Rows().push_back(row);
     }
+    {
+        // Least and greatest sample under a mask of about half the image.
+        auto b = Make(Grey(), GreyImage());
+        b->src2 = SecondGrey() > 127;
+        b->second = ImageOf(b->src2);
+        auto ranges = std::make_shared<std::array<double, 4>>();
+        Row row;
+        row.name = "RangeMasked";
+        row.toolkit = [b, ranges] {
+            const auto range = Measure::Range(b->input, b->second);
+            (*ranges)[0] = range->Minimum();
+            (*ranges)[1] = range->Maximum();
+        };
+        row.peer = [b, ranges] {
+            cv::minMaxLoc(b->src, &(*ranges)[2], &(*ranges)[3], nullptr, nullptr, b->src2);
+        };
+        row.compare = [ranges] {
+            const auto& r = *ranges;
+            return r[0] == r[2] && r[1] == r[3]
+                       ? std::string("equal")
+                       : "DIFFERS: [" + std::to_string(r[0]) + ", " + std::to_string(r[1]) + "] and [" +
+                             std::to_string(r[2]) + ", " + std::to_string(r[3]) + "]";
+        };
+        Rows().push_back(row);
+    }
 }
 
 // How the cost grows: with the length of a line, the radius of a disk, and
@@ -485,6 +525,9 @@ void AddScalingRows()
     for (const int length : {3, 15, 63})
         AddErosion("ErodeLine" + std::to_string(length), grey, image,
                    Geometry::StructuringElement::New(Geometry::pseHorizontalLine, double(length / 2)), false);
+    for (const int length : {3, 15, 63})
+        AddErosion("ErodeVLine" + std::to_string(length), grey, image,
+                   Geometry::StructuringElement::New(Geometry::pseVerticalLine, double(length / 2)), false);
     for (int radius = 1; radius <= 8; ++radius)
         AddErosion("ErodeDisk_r" + std::to_string(radius), grey, image,
                    Geometry::StructuringElement::New(Geometry::pseDisk, double(radius)), false);

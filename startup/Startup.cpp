@@ -91,7 +91,15 @@ extern "C" {
 void* Quilon_malloc(std::size_t size)
 {
     // malloc(0) may return null, which callers would take for exhaustion.
-    void* block = std::malloc(size != 0 ? size : 1);
+    // Large blocks (image samples) start on a cache line, the width of the
+    // widest vector: kernels then never split a load or store across two
+    // lines. std::free releases both kinds.
+    constexpr std::size_t kLineAlignedFrom = 4096, kCacheLine = 64;
+    void* block = nullptr;
+    if (size < kLineAlignedFrom)
+        block = std::malloc(size != 0 ? size : 1);
+    else if (posix_memalign(&block, kCacheLine, size) != 0)
+        block = nullptr;
     if (block) {
         if (auto report = Quilon_::System::AddMemoryPressureFunction)
             report(size);

@@ -134,6 +134,7 @@
 #include "Quilon_/Images/IO/Globals.h"
 #include "Quilon_/Images/Image.h"
 #include "Quilon_/Images/ImageAvailableEventArgs.h"
+#include "Quilon_/Images/ImageAxes.h"
 #include "Quilon_/Images/ImageCache.h"
 #include "Quilon_/Images/ImageCollection.h"
 #include "Quilon_/Images/ImageExtendedProperty.h"

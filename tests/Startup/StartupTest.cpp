@@ -6,6 +6,7 @@
 
 #include <atomic>
 #include <chrono>
+#include <cstdint>
 #include <cstring>
 #include <thread>
 #include <vector>
@@ -31,7 +32,7 @@ TEST(StartupTest, GeneralCriticalSectionIsRecursiveAndExcludesOtherThreads)
         entered = true;
         LeaveGeneralCriticalSection();
     });
-    LeaveGeneralCriticalSection(); // still held once
+    LeaveGeneralCriticalSection();                              // still held once
     std::this_thread::sleep_for(std::chrono::milliseconds(50)); // every chance to get in wrongly
     EXPECT_FALSE(entered);
     LeaveGeneralCriticalSection();
@@ -74,6 +75,7 @@ TEST(StartupTest, MallocReportsRequestedSizesIncludingZeroToThePressureHook)
     void* otherZero = Quilon_malloc(0);
     ASSERT_TRUE(large && zero && otherZero);
     EXPECT_NE(zero, otherZero);
+    EXPECT_EQ(reinterpret_cast<std::uintptr_t>(large) % 64, 0u) << "large blocks start on a cache line";
     EXPECT_EQ(reports, (std::vector<std::size_t>{1 << 20, 0, 0}));
     std::memset(large, 0xCD, 1 << 20); // the sanitizer build checks the bounds
     Quilon_free(large);

@@ -43,6 +43,8 @@ public:
 
     static Layout LayoutOf(Geometry::ICoordinates& size, IFormat& format);
 
+    // The size itself, which Size() copies: for readers that only look.
+    Geometry::ICoordinates& OwnSize() const { return *m_size; }
     const Layout& GetLayout() const { return m_layout; }
     // The samples that the last reshaping kept: from 0 to Kept() on each axis.
     const Extent& Kept() const { return m_kept; }

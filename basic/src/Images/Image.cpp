@@ -1,9 +1,11 @@
 // The image of the reference library, for Image::New: a bitmap, the linked
 // data, the extended properties and a Changed event that can be held back.
 #include "Quilon_/Images/Image.h"
+#include "Images/BitmapImpl.h"
 #include "Quilon_/Geometry/Box.h"
 #include "Quilon_/Images/BitmapAccess.h"
 #include "Quilon_/Images/BitmapConverter.h"
+#include "Quilon_/Images/ImageAxes.h"
 #include "Quilon_/PrivateLibrary.h"
 #include "Quilon_/System/Cloneable.h"
 #include "Quilon_/System/DisableEvents.h"
@@ -13,6 +15,7 @@
 #include "Quilon_/System/Raise.h"
 #include "System/SettingsLifetime.h"
 
+#include <typeinfo>
 #include <utility>
 
 namespace Quilon_::Basic::Images {
@@ -80,8 +83,20 @@ public:
 
     std::int64_t BandCount() override
     {
+        if (Geometry::ICoordinates* size = OwnSize())
+            return (size->Axes() & Geometry::aB) ? size->B() : 1;
         SizeRef size = Size();
         return (size->Axes() & Geometry::aB) ? size->B() : 1;
+    }
+
+    // The size of the bitmap when it is this library's own, read in place:
+    // Size() copies it. Null for a bitmap of another library.
+    Geometry::ICoordinates* OwnSize() const
+    {
+        QI::IBitmap* bitmap = m_bitmap.Get();
+        if (!bitmap || typeid(*bitmap) != typeid(CBitmap))
+            return nullptr;
+        return &static_cast<CBitmap*>(bitmap)->OwnSize();
     }
 
     void Reshape(FormatRef format, SizeRef size, bool discard, const QI::Padding& padding) override
@@ -98,7 +113,9 @@ public:
 
     std::int64_t Dimension() override
     {
-        const unsigned char spatial = Size()->Axes() & (Geometry::aX | Geometry::aY | Geometry::aZ);
+        const Geometry::ICoordinates* own = OwnSize();
+        const unsigned char spatial =
+            (own ? own->Axes() : Size()->Axes()) & (Geometry::aX | Geometry::aY | Geometry::aZ);
         return Geometry::Axes(spatial).AxisCount();
     }
 
@@ -229,8 +246,24 @@ ImageRef NewLikeOfSizeAndFormat(ImageRef model, SizeRef size, FormatRef format, 
     return NewAfter(model, size, format, copyProperties);
 }
 
+// The size of this library's images without its copy.
+bool ReadOwnImageExtent(IImage& image, QI::ImageAxes::Extent& extent)
+{
+    if (typeid(image) != typeid(CImage))
+        return false;
+    Geometry::ICoordinates* size = static_cast<CImage&>(image).OwnSize();
+    if (!size)
+        return false;
+    extent.axes = size->Axes();
+    for (Geometry::AxisEnum axis : {Geometry::aX, Geometry::aY, Geometry::aZ, Geometry::aT, Geometry::aB})
+        if (extent.axes & axis)
+            extent.values[QI::ImageAxes::Extent::Position(axis)] = size->Value(axis);
+    return true;
+}
+
 void RegisterImages()
 {
+    QI::ImageAxes::SetReader(&ReadOwnImageExtent);
     QI::Image::New.Register(L"Image", &NewEmptyImage);
     QI::Image::New.Register(L"Image", &NewOfSize);
     QI::Image::New.Register(L"Image", &NewOfSizeAndFormat);
@@ -256,7 +289,13 @@ void ReleaseImageSettings()
     QI::Globals::ClearBitmapConverters();
 }
 
-const System::Template::Initializer<::Library> images(&RegisterImages, nullptr, 0.2f);
+// Before the library's code goes, operators stop asking it.
+void UnregisterImages()
+{
+    QI::ImageAxes::SetReader(nullptr);
+}
+
+const System::Template::Initializer<::Library> images(&RegisterImages, &UnregisterImages, 0.2f);
 const SettingsLifetime imageSettings(&SetImageSettings, &ReleaseImageSettings, 0.3f);
 
 } // namespace

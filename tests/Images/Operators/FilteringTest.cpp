@@ -25,6 +25,7 @@
 #include <functional>
 #include <limits>
 #include <random>
+#include <tuple>
 
 namespace Quilon_::Tests::FilteringSuite {
 
@@ -538,11 +539,55 @@ TEST(FilteringBasic, FastSmoothingMatchesThePlainFilterUnderEveryInstructionSet)
     });
 }
 
+TEST(FilteringBasic, FastBoxOfIntegerSamplesIsTheRoundedPlainMeanUnderEveryInstructionSet)
+{
+    InChildProcess([] {
+        StartBasic();
+        std::vector<FastCase> shapes(std::begin(fastShapes), std::end(fastShapes));
+        // Banded over the pool: a band's first row starts its column sums
+        // afresh.
+        shapes.push_back({"300 x 261", {300, 261}, Axes::aXY});
+        // Extremes of each type (sums near the top of 32 bits for side 181).
+        const std::tuple<System::NumericTypeEnum, double, double> ranges[] = {
+            {System::ntUInt8, 0, 255},
+            {System::ntUInt16, 0, 65535},
+            {System::ntUInt16, 65530, 65535},
+            {System::ntInt16, -32768, 32767},
+        };
+        unsigned seed = 500;
+        for (const FastCase& shape : shapes)
+            for (const std::int64_t side : {1, 3, 5, 11, 181})
+                for (const auto& [type, low, high] : ranges) {
+                    SCOPED_TRACE(std::string("Box ") + std::to_string(side) + ", " + shape.name + ", " +
+                                 System::ToAnsi(System::ToString(type)) + " " + std::to_string(low));
+                    if (side == 181 && CountOf(shape.extent) > 1000)
+                        continue; // the plain filter's time grows with the side
+                    const ImageRef input =
+                        SampleImage(type, shape.extent, shape.axes,
+                                    RandomSamples(CountOf(shape.extent), low, high, seed++));
+                    ImageRef exact = SampleImage(System::ntDouble, shape.extent, shape.axes, {});
+                    F::Box(input, exact, side);
+                    std::vector<double> rounded = SamplesOf(exact);
+                    for (double& value : rounded)
+                        value = std::nearbyint(value);
+                    ForEachSimdTarget([&](const std::string& target) {
+                        SCOPED_TRACE(target);
+                        ImageRef output = SampleImage(type, shape.extent, shape.axes, {});
+                        F::Box(input, output, side);
+                        EXPECT_EQ(SamplesOf(output), rounded);
+                    });
+                }
+    });
+}
+
 TEST(FilteringBasic, FastMediansMatchThePlainFilterUnderEveryInstructionSet)
 {
     InChildProcess([] {
         StartBasic();
         const Padding constant(ptConstant, System::ToAny(std::int64_t(200)));
+        // Below zero: the unsigned types leave it to the plain filter, and
+        // floats order it by a negative key.
+        const Padding negative(ptConstant, System::ToAny(std::int64_t(-3)));
         const Padding mirror(ptMirror, System::Any());
         const auto square = [](double radius) {
             return Geometry::StructuringElement::New(Geometry::pseSquare, radius);
@@ -551,35 +596,63 @@ TEST(FilteringBasic, FastMediansMatchThePlainFilterUnderEveryInstructionSet)
             {"3", [](ImageRef a, ImageRef b) { F::Median(a, b, 3); }},
             {"5", [](ImageRef a, ImageRef b) { F::Median(a, b, 5); }},
             {"square 1 constant", [&](ImageRef a, ImageRef b) { F::Median(a, b, square(1), constant); }},
+            {"square 1 mirrored", [&](ImageRef a, ImageRef b) { F::Median(a, b, square(1), mirror); }},
             {"square 2 mirrored", [&](ImageRef a, ImageRef b) { F::Median(a, b, square(2), mirror); }},
             {"square 2 constant", [&](ImageRef a, ImageRef b) { F::Median(a, b, square(2), constant); }},
+            {"square 1 constant -3", [&](ImageRef a, ImageRef b) { F::Median(a, b, square(1), negative); }},
+            {"square 2 constant -3", [&](ImageRef a, ImageRef b) { F::Median(a, b, square(2), negative); }},
         };
         std::vector<FastCase> shapes(std::begin(fastShapes), std::end(fastShapes));
         // A square element filters a volume plane by plane.
         shapes.push_back({"9 x 8 x 3 volume", {9, 8, 3}, Axes::aXYZ});
+        // Wider than two vectors of every instruction set, with an odd tail.
+        shapes.push_back({"261 x 6", {261, 6}, Axes::aXY});
+        // Many ties, and few; signed samples of both signs; floats with NaN,
+        // infinities and -0 among them (low == high).
+        const std::tuple<System::NumericTypeEnum, double, double> ranges[] = {
+            {System::ntUInt8, 0, 3},      {System::ntUInt8, 0, 255},        {System::ntUInt16, 0, 3},
+            {System::ntUInt16, 0, 65535}, {System::ntInt16, -32768, 32767}, {System::ntInt16, -2, 1},
+            {System::ntFloat, -2, 1},     {System::ntFloat, 0, 0},
+        };
+        // NaN where the plain filter gives NaN; -0 and 0 are alike.
+        const auto same = [](const std::vector<double>& a, const std::vector<double>& b) {
+            return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                              [](double x, double y) { return x == y || (std::isnan(x) && std::isnan(y)); });
+        };
         unsigned seed = 100;
         for (const FastCase& shape : shapes)
             for (const auto& [name, filter] : filters)
-                for (const double top : {3.0, 255.0}) { // many ties, and few
-                    SCOPED_TRACE(std::string("Median ") + name + ", " + shape.name + ", up to " +
-                                 std::to_string(top));
+                for (const auto& [type, low, high] : ranges) {
+                    SCOPED_TRACE(std::string("Median ") + name + ", " + shape.name + ", " +
+                                 System::ToAnsi(System::ToString(type)) + " " + std::to_string(low) + " to " +
+                                 std::to_string(high));
                     if (shape.axes == Axes::aXYZ && name == std::string("3"))
                         continue; // a cube, for the plain filter
-                    const ImageRef input = SampleImage(System::ntUInt8, shape.extent, shape.axes,
-                                                       RandomSamples(CountOf(shape.extent), 0, top, seed++));
-                    ImageRef wide = SampleImage(System::ntUInt16, shape.extent, shape.axes, {});
-                    filter(input, wide);
-                    const std::vector<double> plain = SamplesOf(wide);
+                    const std::size_t count = CountOf(shape.extent);
+                    std::vector<double> values = low == high ? Tests::RandomSamples(type, count, seed++)
+                                                             : RandomSamples(count, low, high, seed++);
+                    // A NaN with its sign set, as arithmetic makes them.
+                    for (std::size_t i = 3; low == high && i < count; i += 17)
+                        values[i] = -std::numeric_limits<double>::quiet_NaN();
+                    const ImageRef input = SampleImage(type, shape.extent, shape.axes, values);
+                    // Into doubles: the plain filter.
+                    ImageRef exact = SampleImage(System::ntDouble, shape.extent, shape.axes, {});
+                    filter(input, exact);
+                    // A constant below the type's range saturates on the way in.
+                    std::vector<double> plain = SamplesOf(exact);
+                    if (System::IsInteger(type) && !System::IsSigned(type))
+                        for (double& value : plain)
+                            value = std::max(value, 0.0);
                     ForEachSimdTarget([&](const std::string& target) {
                         SCOPED_TRACE(target);
-                        ImageRef output = SampleImage(System::ntUInt8, shape.extent, shape.axes, {});
+                        ImageRef output = SampleImage(type, shape.extent, shape.axes, {});
                         filter(input, output);
-                        EXPECT_EQ(SamplesOf(output), plain);
+                        EXPECT_TRUE(same(SamplesOf(output), plain));
                     });
                     // In place, the output being the input.
-                    ImageRef both = SampleImage(System::ntUInt8, shape.extent, shape.axes, SamplesOf(input));
+                    ImageRef both = SampleImage(type, shape.extent, shape.axes, SamplesOf(input));
                     filter(both, both);
-                    EXPECT_EQ(SamplesOf(both), plain);
+                    EXPECT_TRUE(same(SamplesOf(both), plain));
                 }
     });
 }

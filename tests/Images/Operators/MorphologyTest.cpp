@@ -301,6 +301,40 @@ TEST(Morphology, RowPathsMatchTheDefinitionUnderEveryInstructionSet)
                 {"horizontal 31", flat, [] { return StructuringElement::New(pseHorizontalLine, 31.0); }},
                 {"vertical 3", flat, [] { return StructuringElement::New(pseVerticalLine, 3.0); }},
                 {"line 135", flat, [] { return StructuringElement::New(pseLine135, 4.0); }},
+                // Lines down the rows of 8 offsets and more fold by doubling over rows.
+                {"vertical 31", flat, [] { return StructuringElement::New(pseVerticalLine, 15.0); }},
+                {"line 45 of 19", flat, [] { return StructuringElement::New(pseLine45, 9.0); }},
+                {"diagonal off centre", flat,
+                 [&] {
+                     return fromPoints({{3, -2},
+                                        {2, -1},
+                                        {1, 0},
+                                        {0, 1},
+                                        {-1, 2},
+                                        {-2, 3},
+                                        {-3, 4},
+                                        {-4, 5},
+                                        {-5, 6},
+                                        {-6, 7},
+                                        {-7, 8},
+                                        {-8, 9}});
+                 }},
+                // Not lines down the rows: a gap, and a step of two samples.
+                {"vertical with a gap", flat,
+                 [&] {
+                     return fromPoints(
+                         {{0, -5}, {0, -4}, {0, -3}, {0, -2}, {0, -1}, {0, 1}, {0, 2}, {0, 3}, {0, 4}});
+                 }},
+                {"steep slope of 2", flat,
+                 [&] {
+                     return fromPoints(
+                         {{-8, -4}, {-6, -3}, {-4, -2}, {-2, -1}, {0, 0}, {2, 1}, {4, 2}, {6, 3}, {8, 4}});
+                 }},
+                {"vertical below", flat,
+                 [&] {
+                     return fromPoints(
+                         {{2, 1}, {2, 2}, {2, 3}, {2, 4}, {2, 5}, {2, 6}, {2, 7}, {2, 8}, {2, 9}});
+                 }},
                 {"rectangle 9 x 3", flat,
                  [&] {
                      return fromPoints({{-4, -1}, {-3, -1}, {-2, -1}, {-1, -1}, {0, -1}, {1, -1}, {2, -1},
@@ -316,6 +350,7 @@ TEST(Morphology, RowPathsMatchTheDefinitionUnderEveryInstructionSet)
                 {"cube 1", deep, [] { return StructuringElement::New(pseCube, 1.0); }},
                 {"ball 2", deep, [] { return StructuringElement::New(pseBall, 2.0); }},
                 {"cross on X and Z", deep, [] { return StructuringElement::New(pseDisk, 1.0, Axes::aXZ); }},
+                {"line 135 in a volume", deep, [] { return StructuringElement::New(pseLine135, 5.0); }},
             };
         const System::NumericTypeEnum types[] = {
             System::ntInt8,   System::ntUInt8, System::ntInt16,  System::ntUInt16, System::ntInt32,
@@ -384,9 +419,12 @@ TEST(Morphology, BandedAndStreamedErosionMatchTheDefinition)
                 {&banded, System::ntUInt8, disk(3.0)},
                 {&banded, System::ntInt16, [] { return StructuringElement::New(pseSquare, 1.0); }},
                 {&banded, System::ntUInt16, [] { return StructuringElement::New(pseVerticalLine, 7.0); }},
+                {&banded, System::ntUInt8, [] { return StructuringElement::New(pseLine45, 20.0); }},
+                {&deep, System::ntInt16, [] { return StructuringElement::New(pseVerticalLine, 6.0); }},
                 {&banded, System::ntFloat, disk(2.0)},
                 {&deep, System::ntUInt8, [] { return StructuringElement::New(pseBall, 1.0); }},
                 {&streamed, System::ntDouble, disk(2.0)},
+                {&streamed, System::ntDouble, [] { return StructuringElement::New(pseLine135, 10.0); }},
             };
         for (const auto& [shape, type, make] : cases) {
             const Shape& s = *shape;

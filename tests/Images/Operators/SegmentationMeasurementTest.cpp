@@ -488,39 +488,88 @@ TEST(MeasurementsBasic, HistogramsByValueTableMatchTheSampleWalk)
     });
 }
 
-TEST(MeasurementsBasic, RangesOfDenseImagesMatchTheMaskedWalk)
+// [least, greatest] of the samples whose mask value is not 0 (NaN is set),
+// NaN passed over, the first of equal ones kept; [0, 0] with none.
+std::pair<double, double> RangeByWalk(const std::vector<double>& values, const std::vector<double>* mask)
+{
+    double low = std::numeric_limits<double>::infinity(), high = -low;
+    for (std::size_t i = 0; i < values.size(); ++i)
+        if ((!mask || (*mask)[i] != 0) && !std::isnan(values[i])) {
+            low = values[i] < low ? values[i] : low;
+            high = high < values[i] ? values[i] : high;
+        }
+    return low > high ? std::pair(0.0, 0.0) : std::pair(low, high);
+}
+
+TEST(MeasurementsBasic, RangesOfDenseImagesMatchTheSampleWalk)
 {
     InChildProcess([] {
         StartBasic();
-        // A mask of ones selects every sample through the walk.
-        auto expectSameRange = [](const ImageRef& image, const DenseShape& shape) {
-            ImageRef ones =
-                SampleImage(System::ntUInt8, shape.extent, shape.axes, std::vector<double>(shape.Count(), 1));
-            const auto fast = M::Range(image), plain = M::Range(image, Mask(ones));
-            EXPECT_EQ(std::signbit(fast->Minimum()), std::signbit(plain->Minimum()));
-            EXPECT_EQ(fast->Minimum(), plain->Minimum());
-            EXPECT_EQ(fast->Maximum(), plain->Maximum());
+        const auto expectRange = [](const ImageRef& image, const Mask& mask,
+                                    std::pair<double, double> expected, const std::string& what) {
+            const auto range = mask ? M::Range(image, mask) : M::Range(image);
+            EXPECT_EQ(std::signbit(range->Minimum()), std::signbit(expected.first)) << what;
+            EXPECT_EQ(range->Minimum(), expected.first) << what;
+            EXPECT_EQ(range->Maximum(), expected.second) << what;
         };
         for (System::NumericTypeEnum type :
              {System::ntUInt8, System::ntInt8, System::ntUInt16, System::ntInt16, System::ntInt32,
-              System::ntUInt32, System::ntFloat, System::ntDouble})
-            for (const DenseShape& shape : denseShapes) {
-                SCOPED_TRACE(Describe(type, shape.Count()));
-                expectSameRange(SampleImage(type, shape.extent, shape.axes, TwoHumps(type, shape.Count(), 6)),
-                                shape);
+              System::ntUInt32, System::ntInt64, System::ntFloat, System::ntDouble})
+            for (const DenseShape* shape : {&bandedShape, &smallVolume, &shortRow}) {
+                const std::size_t count = shape->Count();
+                const std::vector<double> values = TwoHumps(type, count, 6);
+                ImageRef image = SampleImage(type, shape->extent, shape->axes, values);
+                // Masks: random bytes selecting about one in 8; floats with
+                // NaN (set) and -0 (not set); a single sample; none set.
+                std::vector<double> sparse = RandomSamples(System::ntUInt8, count, 7), floats = sparse,
+                                    single(count, 0.0);
+                for (std::size_t i = 0; i < count; ++i) {
+                    sparse[i] = double(int(sparse[i]) % 8 == 0);
+                    floats[i] = std::vector<double>{nan, -0.0, 0.0, 2.5}[std::size_t(floats[i]) % 4];
+                }
+                single[count / 2] = 1;
+                const std::vector<double> none(count, 0.0);
+                const std::vector<
+                    std::tuple<const char*, System::NumericTypeEnum, const std::vector<double>*>>
+                    masks{{"no mask", System::ntUInt8, nullptr},
+                          {"sparse bytes", System::ntUInt8, &sparse},
+                          {"floats", System::ntFloat, &floats},
+                          {"one sample", System::ntUInt16, &single},
+                          {"none set", System::ntUInt1, &none}};
+                for (const auto& [name, maskType, maskValues] : masks) {
+                    const Mask mask =
+                        maskValues ? Mask(SampleImage(maskType, shape->extent, shape->axes, *maskValues))
+                                   : Mask();
+                    const auto expected = RangeByWalk(values, maskValues);
+                    const auto check = [&](const std::string& target) {
+                        expectRange(image, mask, expected,
+                                    Describe(type, count) + ", " + name + ", under " + target);
+                    };
+                    if (shape == &bandedShape)
+                        check("the default target");
+                    else
+                        Testing::ForEachSimdTarget(check);
+                }
             }
         // Of equal extremes the first in memory is kept, across bands too;
         // an image of NaNs alone has the range [0, 0].
-        const DenseShape large = denseShapes.front();
+        const DenseShape large = bandedShape;
         std::vector<double> zeros(large.Count(), 1.0);
         zeros[10] = -0.0;
         zeros[large.Count() - 10] = 0.0;
-        expectSameRange(SampleImage(System::ntFloat, large.extent, large.axes, zeros), large);
-        std::swap(zeros[10], zeros[large.Count() - 10]);
-        expectSameRange(SampleImage(System::ntDouble, large.extent, large.axes, zeros), large);
-        expectSameRange(
-            SampleImage(System::ntFloat, large.extent, large.axes, std::vector<double>(large.Count(), nan)),
-            large);
+        const std::vector<double> ones(large.Count(), 1.0);
+        const Mask all(SampleImage(System::ntUInt8, large.extent, large.axes, ones));
+        for (const Mask& mask : {Mask(), all}) {
+            expectRange(SampleImage(System::ntFloat, large.extent, large.axes, zeros), mask,
+                        RangeByWalk(zeros, nullptr), "-0 first");
+            std::vector<double> swapped = zeros;
+            std::swap(swapped[10], swapped[large.Count() - 10]);
+            expectRange(SampleImage(System::ntDouble, large.extent, large.axes, swapped), mask,
+                        RangeByWalk(swapped, nullptr), "0 first");
+            expectRange(SampleImage(System::ntFloat, large.extent, large.axes,
+                                    std::vector<double>(large.Count(), nan)),
+                        mask, {0.0, 0.0}, "NaN alone");
+        }
     });
 }
 

@@ -174,59 +174,140 @@ std::int64_t SquareWindowSide(const std::vector<Point>& points)
     return offsets.size() == points.size() ? side : 0;
 }
 
-// The columns of the window are sorted straight from the input rows, then
-// the sorted columns outside the row are laid out by the border rule: a
-// column read through the rule sorts to the same ranks. The 3 x 3 median
-// makes two output rows at a time, which share two of their three rows.
-void MedianPlanes(const BitmapView<std::uint8_t>& in, const BitmapView<std::uint8_t>& out, std::int64_t side,
-                  const BorderRule& border)
+// The 3 x 3 median at the first and the last sample of a row, whose
+// windows reach past the row's ends: sample by sample, through the border
+// rule.
+template <class T>
+void MedianRowEnds3(const T* const* rows, std::int64_t nx, const BorderRule& border, T* out)
 {
-    const std::int64_t nx = in.size[slotX], ny = in.size[slotY], r = side / 2;
-    const std::int64_t group = side == 3 ? 2 : 1;
-    const std::int64_t windows = group * side; // rows of sorted columns
+    const T constant = static_cast<T>(border.value);
+    for (const std::int64_t x : {std::int64_t(0), nx - 1}) {
+        T window[9];
+        for (std::int64_t k = 0; k < 9; ++k) {
+            const std::int64_t source = SourceIndex(x + k % 3 - 1, nx, border);
+            window[k] = source < 0 ? constant : rows[k / 3][source];
+        }
+        std::nth_element(window, window + 4, window + 9,
+                         [](T a, T b) { return MedianKeyOf(a) < MedianKeyOf(b); });
+        out[x] = window[4];
+    }
+}
+
+// The 3 x 3 median, two output rows at a time (they share two of their
+// three rows), straight from the input rows to the output's.
+template <class T>
+void Median3Planes(const BitmapView<T>& in, const BitmapView<T>& out, const BorderRule& border)
+{
+    const std::int64_t nx = in.size[slotX], ny = in.size[slotY];
+    const SampleKind kind = sampleKindOf<T>;
+    ForEachFilterRowGroup(in, out, 2, 9, [&] {
+        return [&, constant = std::vector<T>(static_cast<std::size_t>(nx), static_cast<T>(border.value))](
+                   const T* plane, T* outputPlane, std::int64_t y, std::int64_t n) {
+            const T* rows[4];
+            for (std::int64_t k = 0; k < 4; ++k) {
+                const std::int64_t source = SourceIndex(y + std::min(k, n + 1) - 1, ny, border);
+                rows[k] = source < 0 ? constant.data() : plane + source * in.stride[slotY];
+            }
+            T* outputs[] = {outputPlane + y * out.stride[slotY],
+                            n == 2 ? outputPlane + (y + 1) * out.stride[slotY] : nullptr};
+            const std::int64_t next = y + n + 1; // the first row the next group adds
+            const T* ahead[] = {next < ny ? plane + next * in.stride[slotY] : nullptr,
+                                next + 1 < ny ? plane + (next + 1) * in.stride[slotY] : nullptr,
+                                y + n < ny ? outputPlane + (y + n) * out.stride[slotY] : nullptr,
+                                y + n + 1 < ny ? outputPlane + (y + n + 1) * out.stride[slotY] : nullptr};
+            Median3x3Rows(kind, reinterpret_cast<const void* const*>(rows), 1,
+                          std::max<std::int64_t>(nx - 1, 1), reinterpret_cast<void* const*>(outputs),
+                          reinterpret_cast<const void* const*>(ahead));
+            for (std::int64_t j = 0; j < n; ++j)
+                MedianRowEnds3(rows + j, nx, border, outputs[j]);
+        };
+    });
+}
+
+// The 5 x 5 median: the columns of the window are sorted straight from
+// the input rows, then the sorted columns outside the row are laid out by
+// the border rule (a column read through the rule sorts to the same
+// ranks), and the median taken from the sorted columns.
+template <class T>
+void Median5Planes(const BitmapView<T>& in, const BitmapView<T>& out, const BorderRule& border)
+{
+    constexpr std::int64_t side = 5, r = 2;
+    const std::int64_t nx = in.size[slotX], ny = in.size[slotY];
+    const SampleKind kind = sampleKindOf<T>;
+    using K = MedianKey<T>;
+    // Sorted columns outside the row: the keys of the constant.
+    BorderRule keys = border;
+    keys.value = static_cast<double>(MedianKeyOf(static_cast<T>(border.value)));
     // Rows of sorted columns a few cache lines more than a multiple of 4 KiB
     // apart (image rows often are such a multiple): a load from one row
     // then never waits on a store to another that the processor takes for
     // the same address.
-    const auto width = (static_cast<std::size_t>(nx + 2 * r) + 63) / 64 * 64 + 5 * 64;
-    ForEachFilterRowGroup(in, out, group, side * side, [&] {
-        return [&,
-                constant = std::vector<std::uint8_t>(static_cast<std::size_t>(nx),
-                                                     static_cast<std::uint8_t>(border.value)),
-                sorted = std::vector<std::uint8_t>(width * static_cast<std::size_t>(windows))](
-                   const std::uint8_t* plane, std::uint8_t* outputPlane, std::int64_t y,
-                   std::int64_t n) mutable {
-            const std::uint8_t* rows[6];
-            std::uint8_t* ranks[6];
-            std::uint8_t* inside[6];
-            for (std::int64_t k = 0; k < side + n - 1; ++k) {
+    const auto width =
+        (static_cast<std::size_t>(nx + 2 * r) * sizeof(T) + 63) / 64 * 64 / sizeof(T) + 5 * 64 / sizeof(T);
+    ForEachFilterRowGroup(in, out, 1, side * side, [&] {
+        return [&, constant = std::vector<T>(static_cast<std::size_t>(nx), static_cast<T>(border.value)),
+                sorted = std::vector<K>(width * side)](const T* plane, T* outputPlane, std::int64_t y,
+                                                       std::int64_t) mutable {
+            const T* rows[side];
+            K* ranks[side];
+            K* inside[side];
+            for (std::int64_t k = 0; k < side; ++k) {
                 const std::int64_t source = SourceIndex(y + k - r, ny, border);
                 rows[k] = source < 0 ? constant.data() : plane + source * in.stride[slotY];
-            }
-            for (std::int64_t k = 0; k < windows; ++k) {
                 ranks[k] = sorted.data() + static_cast<std::size_t>(k) * width;
                 inside[k] = ranks[k] + r;
             }
-            const std::int64_t next = y + n + r; // the first row the next group adds
-            const auto rowIfAny = [&](std::int64_t row) {
-                return row < ny ? plane + row * in.stride[slotY] : nullptr;
+            const std::int64_t next = y + 1 + r; // the row the next output row adds
+            SortColumns5(kind, reinterpret_cast<const void* const*>(rows), nx,
+                         reinterpret_cast<void* const*>(inside),
+                         next < ny ? plane + next * in.stride[slotY] : nullptr);
+            for (std::int64_t k = 0; k < side; ++k)
+                PadFilterLine(inside[k], nx, r, keys);
+            MedianOfSortedColumns5(kind, reinterpret_cast<const void* const*>(ranks), nx,
+                                   outputPlane + y * out.stride[slotY]);
+        };
+    });
+}
+
+// ---- Box mean of integer samples -------------------------------------------------
+
+// The window's sums exactly in 32 bits: column sums kept from one output
+// row to the next (the row the window gains added, the row it loses taken
+// away), then summed along the row and divided with exact rounding.
+template <class T>
+void BoxPlanes(const BitmapView<T>& in, const BitmapView<T>& out, std::int64_t side, bool alongY,
+               const BorderRule& border)
+{
+    const std::int64_t nx = in.size[slotX], ny = in.size[slotY], r = side / 2;
+    const std::int64_t columnSide = alongY ? side : 1;
+    const auto divisor = static_cast<std::int32_t>(side * columnSide);
+    const SampleKind kind = sampleKindOf<T>;
+    // A column outside the row sums columnSide constants.
+    BorderRule columns = border;
+    columns.value *= static_cast<double>(columnSide);
+    ForEachFilterRowGroup(in, out, 1, side + 4, [&] {
+        return [&, constant = std::vector<T>(static_cast<std::size_t>(nx), static_cast<T>(border.value)),
+                sums = std::vector<std::int32_t>(static_cast<std::size_t>(nx + 2 * r)),
+                rows = std::vector<const T*>(static_cast<std::size_t>(columnSide)),
+                lastPlane = static_cast<const T*>(nullptr), lastY = std::int64_t(-1)](
+                   const T* plane, T* outputPlane, std::int64_t y, std::int64_t) mutable {
+            const auto rowAt = [&](std::int64_t row) {
+                const std::int64_t source = SourceIndex(row, ny, border);
+                return source < 0 ? constant.data() : plane + source * in.stride[slotY];
             };
-            if (n == 2) {
-                const std::uint8_t* ahead[] = {rowIfAny(next), rowIfAny(next + 1)};
-                SortColumnPairs3(rows, nx, inside, ahead);
+            std::int32_t* inside = sums.data() + r;
+            if (alongY && plane == lastPlane && y == lastY + 1) {
+                BoxColumnSlide(kind, rowAt(y + r), rowAt(y - r - 1), nx, inside);
             } else {
-                SortColumns(rows, side, nx, inside, rowIfAny(next));
+                for (std::int64_t k = 0; k < columnSide; ++k)
+                    rows[static_cast<std::size_t>(k)] =
+                        alongY ? rowAt(y + k - r) : plane + y * in.stride[slotY];
+                BoxColumnSums(kind, reinterpret_cast<const void* const*>(rows.data()), columnSide, nx,
+                              inside);
             }
-            for (std::int64_t k = 0; k < n * side; ++k)
-                PadFilterLine(inside[k], nx, r, border);
-            for (std::int64_t j = 0; j < n; ++j) {
-                // The output row of the next group, for the stores that
-                // would otherwise wait for it.
-                std::uint8_t* aheadOut =
-                    y + j + n < ny ? outputPlane + (y + j + n) * out.stride[slotY] : nullptr;
-                MedianOfSortedColumns(ranks + j * side, side, nx, outputPlane + (y + j) * out.stride[slotY],
-                                      aheadOut);
-            }
+            lastPlane = plane, lastY = y;
+            PadFilterLine(inside, nx, r, columns);
+            BoxRow(kind, sums.data(), side, nx, divisor, outputPlane + y * out.stride[slotY]);
         };
     });
 }
@@ -268,17 +349,55 @@ bool SymmetricSeparableFast(const ImageRef& source, const ImageRef& destination,
 bool MedianFast(const ImageRef& source, const ImageRef& destination, const std::vector<Point>& points,
                 const BorderRule& border)
 {
-    if (SampleKindOf(DataTypeOf(source)) != SampleKind::u8 ||
-        SampleKindOf(DataTypeOf(destination)) != SampleKind::u8)
+    const std::optional<SampleKind> kind = SampleKindOf(DataTypeOf(source));
+    if (!kind ||
+        (*kind != SampleKind::u8 && *kind != SampleKind::u16 && *kind != SampleKind::i16 &&
+         *kind != SampleKind::f32) ||
+        SampleKindOf(DataTypeOf(destination)) != kind)
         return false;
     const std::int64_t side = SquareWindowSide(points);
-    if (side == 0 || !FilterHoldsConstant<std::uint8_t>(border))
+    if (side == 0)
         return false;
-    const BitmapView<std::uint8_t> in = ViewOf<std::uint8_t>(source), out = ViewOf<std::uint8_t>(destination);
-    if (!FilterViewsSuit(in, out))
+    return DispatchSampleKind(*kind, [&]<class T>(std::type_identity<T>) {
+        if constexpr (!std::is_same_v<T, float> && (sizeof(T) > 2 || std::is_same_v<T, std::int8_t>)) {
+            return false;
+        } else {
+            const BitmapView<T> in = ViewOf<T>(source), out = ViewOf<T>(destination);
+            if (!FilterHoldsConstant<T>(border) || !FilterViewsSuit(in, out))
+                return false;
+            if (side == 3)
+                Median3Planes(in, out, border);
+            else
+                Median5Planes(in, out, border);
+            return true;
+        }
+    });
+}
+
+bool BoxFast(const ImageRef& source, const ImageRef& destination, std::int64_t side, const BorderRule& border)
+{
+    const std::optional<SampleKind> kind = SampleKindOf(DataTypeOf(source));
+    if (!kind || (*kind != SampleKind::u8 && *kind != SampleKind::u16 && *kind != SampleKind::i16) ||
+        SampleKindOf(DataTypeOf(destination)) != kind || side < 1 || side % 2 == 0)
         return false;
-    MedianPlanes(in, out, side, border);
-    return true;
+    const std::vector<int> slots = SpatialSlots(source);
+    if (slots.empty() || slots[0] != slotX || slots.size() > 2 || (slots.size() == 2 && slots[1] != slotY))
+        return false;
+    const bool alongY = slots.size() == 2;
+    // Sums and the divisor times the quotient stay within 32 bits.
+    if ((alongY ? side * side : side) > 32767)
+        return false;
+    return DispatchSampleKind(*kind, [&]<class T>(std::type_identity<T>) {
+        if constexpr (sizeof(T) > 2 || std::is_same_v<T, std::int8_t>) {
+            return false;
+        } else {
+            const BitmapView<T> in = ViewOf<T>(source), out = ViewOf<T>(destination);
+            if (!FilterHoldsConstant<T>(border) || !FilterViewsSuit(in, out))
+                return false;
+            BoxPlanes(in, out, side, alongY, border);
+            return true;
+        }
+    });
 }
 
 } // namespace Quilon_::Basic::Images::Operators

@@ -11,9 +11,13 @@
 //   GaussianRow(paddedColumn, w, 2, width, output);        // paddedColumn: 2 more on each side
 #pragma once
 
+#include <bit>
 #include <cstdint>
+#include <type_traits>
 
 namespace Quilon_::Basic::Images::Operators {
+
+enum class SampleKind : std::uint8_t; // SampleKinds.h
 
 // The most output rows one GaussianColumns call makes, and the most rows
 // (2 r + n) it reads when it makes more than one.
@@ -38,25 +42,68 @@ void GaussianRow(const float* padded, const float* weights, std::int64_t radius,
 void GaussianRow(const float* padded, const float* weights, std::int64_t radius, std::int64_t count,
                  std::uint8_t* out);
 
+// The median kernels take the sample kinds u8, u16, i16 and f32, the box
+// kernels the first three; rows and outputs point to samples of that kind.
+//
+// The medians order integers as they are and floats by a key in 32-bit
+// integers in which every NaN is greater than any number (as the plain
+// filter orders them) and -0 lies just below 0; rows of sorted columns
+// hold keys.
+template <class T>
+using MedianKey = std::conditional_t<std::is_same_v<T, float>, std::int32_t, T>;
+
+template <class T>
+constexpr MedianKey<T> MedianKeyOf(T sample) noexcept
+{
+    if constexpr (std::is_same_v<T, float>) {
+        const auto bits = std::bit_cast<std::int32_t>(sample);
+        if ((bits & 0x7fffffff) > 0x7f800000)
+            return 0x7fffffff; // NaN
+        return bits < 0 ? bits ^ 0x7fffffff : bits;
+    } else {
+        return sample;
+    }
+}
+
+template <class T>
+constexpr T MedianSampleOf(MedianKey<T> key) noexcept
+{
+    if constexpr (std::is_same_v<T, float>)
+        return std::bit_cast<float>(key < 0 ? key ^ 0x7fffffff : key);
+    else
+        return key;
+}
+
 // sorted[i][x] = the sample of rank i (0 the least) among rows[0][x] ..
-// rows[side - 1][x], for a side of 3 or 5. `ahead`, if not null, is the
-// row needed next, brought into the cache on the way.
-void SortColumns(const std::uint8_t* const* rows, std::int64_t side, std::int64_t count,
-                 std::uint8_t* const* sorted, const std::uint8_t* ahead);
+// rows[4][x]. `ahead`, if not null, is the row needed next, brought into
+// the cache on the way.
+void SortColumns5(SampleKind kind, const void* const* rows, std::int64_t count, void* const* sorted,
+                  const void* ahead);
 
-// The sorted columns of two 3-row windows one row apart, rows[0..2] and
-// rows[1..3], into sorted[0..2] and sorted[3..5]: the two rows both
-// windows hold are ordered once for both. ahead[0] and ahead[1], those not
-// null, are brought into the cache on the way.
-void SortColumnPairs3(const std::uint8_t* const* rows, std::int64_t count, std::uint8_t* const* sorted,
-                      const std::uint8_t* const* ahead);
+// out[x] = the median of the 5 x 5 window whose columns, sorted as
+// SortColumns5 leaves them, start at sorted[.][x]: `sorted` rows hold
+// count + 4 samples.
+void MedianOfSortedColumns5(SampleKind kind, const void* const* sorted, std::int64_t count, void* out);
 
-// out[x] = the median of the side x side window whose columns, sorted as
-// SortColumns leaves them, start at sorted[.][x]: `sorted` rows hold
-// count + side - 1 samples. `aheadOut`, if not null, is the output row
-// written next, brought into the cache for writing on the way (the 3 x 3
-// window only).
-void MedianOfSortedColumns(const std::uint8_t* const* sorted, std::int64_t side, std::int64_t count,
-                           std::uint8_t* out, std::uint8_t* aheadOut);
+// The 3 x 3 medians at x in [first, last) of two output rows one row
+// apart: out[0] of the window rows[0..2], out[1] (if not null) of
+// rows[1..3]. Rows are read at x - 1 ... x + 1. ahead[0] and ahead[1],
+// those not null, are brought into the cache on the way.
+void Median3x3Rows(SampleKind kind, const void* const* rows, std::int64_t first, std::int64_t last,
+                   void* const* out, const void* const* ahead);
+
+// sums[x] = rows[0][x] + ... + rows[side - 1][x].
+void BoxColumnSums(SampleKind kind, const void* const* rows, std::int64_t side, std::int64_t count,
+                   std::int32_t* sums);
+
+// sums[x] += added[x] - removed[x].
+void BoxColumnSlide(SampleKind kind, const void* added, const void* removed, std::int64_t count,
+                    std::int32_t* sums);
+
+// out[x] = the nearest integer to (padded[x] + ... + padded[x + side - 1])
+// / divisor, exactly, for an odd divisor up to 32767 (sums and divisor
+// times the quotients within 32 bits).
+void BoxRow(SampleKind kind, const std::int32_t* padded, std::int64_t side, std::int64_t count,
+            std::int32_t divisor, void* out);
 
 } // namespace Quilon_::Basic::Images::Operators

@@ -1,14 +1,16 @@
 // The vectorised kernels of the fast filters (declared in FilterKernels.h):
 // the two passes of a symmetric separable kernel in single precision, and
-// the rank networks of the 3 x 3 and 5 x 5 medians of 8-bit samples. Each
-// kernel runs over one row; what lies outside the image is already in the
-// rows it is given, so no kernel tests a border.
+// the rank networks of the 3 x 3 and 5 x 5 medians of 8- and 16-bit
+// samples, and the exact box mean of those. Each kernel runs over one row
+// or two; what lies outside the image is already in the rows it is given,
+// so no kernel tests a border.
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "Images/Filtering/FilterSimd.cpp"
 #include <hwy/foreach_target.h>
 #include <hwy/highway.h>
 
 #include "Images/Filtering/FilterKernels.h"
+#include "Images/Operators/SampleKinds.h"
 
 #include <algorithm>
 #include <cmath>
@@ -37,7 +39,7 @@ struct Exchange {
 // known to be below the median when at least half the window lies above
 // it, and above when at least half lies below; the median is the median of
 // the elements left (13 of 25; the 3 x 3 window keeps 3 of 9, see
-// MedianOfSorted3). The rank sorts and that last median are Batcher
+// MedianOfSortedColumns). The rank sorts and that last median are Batcher
 // merge-exchange networks, from which the exchanges whose results are
 // never read were removed. The networks were checked on every window of
 // zeros and ones with sorted columns, which by the 0-1 principle covers
@@ -66,8 +68,7 @@ constexpr Exchange median5[] = {
     {7, 3, Keep::low},    {7, 12, Keep::high}};
 constexpr std::size_t median5Result = 12;
 
-// Sorting networks of the columns.
-constexpr Exchange sort3[] = {{0, 2, Keep::both}, {0, 1, Keep::both}, {1, 2, Keep::both}};
+// The sorting network of the columns.
 constexpr Exchange sort5[] = {{0, 4, Keep::both}, {0, 2, Keep::both}, {1, 3, Keep::both},
                               {2, 4, Keep::both}, {0, 1, Keep::both}, {2, 3, Keep::both},
                               {1, 4, Keep::both}, {1, 2, Keep::both}, {3, 4, Keep::both}};
@@ -318,8 +319,16 @@ struct VectorOrder {
     }
 };
 struct SampleOrder {
-    static HWY_INLINE std::uint8_t Low(std::uint8_t a, std::uint8_t b) { return std::min(a, b); }
-    static HWY_INLINE std::uint8_t High(std::uint8_t a, std::uint8_t b) { return std::max(a, b); }
+    template <class T>
+    static HWY_INLINE T Low(T a, T b)
+    {
+        return std::min(a, b);
+    }
+    template <class T>
+    static HWY_INLINE T High(T a, T b)
+    {
+        return std::max(a, b);
+    }
 };
 
 template <class Order, const Exchange* network, std::size_t... step, class V>
@@ -343,19 +352,83 @@ HWY_INLINE void RunNetwork(V* v)
     RunNetwork<Order, network>(v, std::make_index_sequence<size>{});
 }
 
-// Sorts the `side` samples of every column: sorted[i][x] is rank i of
-// rows[0][x] ... rows[side - 1][x].
-template <std::size_t side, const Exchange* network, std::size_t size>
-HWY_INLINE void SortColumnsOf(const std::uint8_t* const* rowList, std::int64_t count,
-                              std::uint8_t* const* sortedList, const std::uint8_t* ahead)
+// Calls body(T{}) for the integer sample types the median and box
+// kernels take.
+template <class Body>
+HWY_INLINE void WithIntegerSample(SampleKind kind, Body&& body)
 {
+    switch (kind) {
+    case SampleKind::u16:
+        return body(std::uint16_t{});
+    case SampleKind::i16:
+        return body(std::int16_t{});
+    default:
+        return body(std::uint8_t{});
+    }
+}
+
+// The same and float, for the medians.
+template <class Body>
+HWY_INLINE void WithMedianSample(SampleKind kind, Body&& body)
+{
+    if (kind == SampleKind::f32)
+        return body(float{});
+    WithIntegerSample(kind, body);
+}
+
+// Samples as the medians order them: integers as they are, floats as
+// their keys (MedianKeyOf), in whole vectors or one at a time.
+template <class D>
+HWY_INLINE hn::Vec<D> LoadMedianKeys(D d, const hn::TFromD<D>* p)
+{
+    return hn::LoadU(d, p);
+}
+template <class D>
+HWY_INLINE hn::Vec<D> LoadMedianKeys(D d, const float* p)
+{
+    const hn::Rebind<float, D> df;
+    const auto bits = hn::BitCast(d, hn::LoadU(df, p));
+    const auto magnitude = hn::And(bits, hn::Set(d, 0x7fffffff));
+    const auto key = hn::Xor(bits, hn::And(hn::ShiftRight<31>(bits), hn::Set(d, 0x7fffffff)));
+    return hn::IfThenElse(hn::Gt(magnitude, hn::Set(d, 0x7f800000)), hn::Set(d, 0x7fffffff), key);
+}
+template <class D>
+HWY_INLINE void StoreMedianKeys(D d, hn::Vec<D> v, hn::TFromD<D>* p)
+{
+    hn::StoreU(v, d, p);
+}
+template <class D>
+HWY_INLINE void StoreMedianKeys(D d, hn::Vec<D> v, float* p)
+{
+    const hn::Rebind<float, D> df;
+    hn::StoreU(hn::BitCast(df, hn::Xor(v, hn::And(hn::ShiftRight<31>(v), hn::Set(d, 0x7fffffff)))), df, p);
+}
+template <class T>
+HWY_INLINE MedianKey<T> KeyAt(const T* p)
+{
+    return MedianKeyOf(*p);
+}
+template <class T>
+HWY_INLINE void PutKey(MedianKey<T> key, T* p)
+{
+    *p = MedianSampleOf<T>(key);
+}
+
+// Sorts the 5 samples of every column: sorted[i][x] is rank i of
+// rows[0][x] ... rows[4][x].
+template <class T, class K = MedianKey<T>>
+HWY_INLINE void SortColumns5Of(const T* const* rowList, std::int64_t count, K* const* sortedList,
+                               const T* ahead)
+{
+    using MedianNetworks::sort5;
+    constexpr std::size_t side = 5;
     // Local copies of the row pointers: the stores below cannot change
     // them, so they stay in registers.
-    const std::uint8_t* rows[side];
-    std::uint8_t* sorted[side];
+    const T* rows[side];
+    K* sorted[side];
     for (std::size_t i = 0; i < side; ++i)
         rows[i] = rowList[i], sorted[i] = sortedList[i];
-    const hn::ScalableTag<std::uint8_t> d;
+    const hn::ScalableTag<K> d;
     const auto lanes = static_cast<std::int64_t>(hn::Lanes(d));
     std::int64_t x = 0;
     for (; x + lanes <= count; x += lanes) {
@@ -366,33 +439,75 @@ HWY_INLINE void SortColumnsOf(const std::uint8_t* const* rowList, std::int64_t c
         hn::Vec<decltype(d)> v[side];
 #pragma GCC unroll 5
         for (std::size_t i = 0; i < side; ++i)
-            v[i] = hn::LoadU(d, rows[i] + x);
-        RunNetwork<VectorOrder, network, size>(v);
+            v[i] = LoadMedianKeys(d, rows[i] + x);
+        RunNetwork<VectorOrder, sort5, std::size(sort5)>(v);
 #pragma GCC unroll 5
         for (std::size_t i = 0; i < side; ++i)
             hn::StoreU(v[i], d, sorted[i] + x);
     }
     for (; x < count; ++x) {
-        std::uint8_t v[side];
+        K v[side];
         for (std::size_t i = 0; i < side; ++i)
-            v[i] = rows[i][x];
-        RunNetwork<SampleOrder, network, size>(v);
+            v[i] = KeyAt(rows[i] + x);
+        RunNetwork<SampleOrder, sort5, std::size(sort5)>(v);
         for (std::size_t i = 0; i < side; ++i)
             sorted[i][x] = v[i];
     }
 }
 
-void SortColumnsU8(const std::uint8_t* const* rows, std::int64_t side, std::int64_t count,
-                   std::uint8_t* const* sorted, const std::uint8_t* ahead)
+void SortColumns5(SampleKind kind, const void* const* rows, std::int64_t count, void* const* sorted,
+                  const void* ahead)
 {
-    if (side == 3)
-        SortColumnsOf<3, MedianNetworks::sort3, std::size(MedianNetworks::sort3)>(rows, count, sorted, ahead);
-    else
-        SortColumnsOf<5, MedianNetworks::sort5, std::size(MedianNetworks::sort5)>(rows, count, sorted, ahead);
+    WithMedianSample(kind, [&]<class T>(T) {
+        SortColumns5Of(reinterpret_cast<const T* const*>(rows), count,
+                       reinterpret_cast<MedianKey<T>* const*>(sorted), static_cast<const T*>(ahead));
+    });
 }
 
-// Rows b and c are ordered once; a joins them for the first window, d for
-// the second.
+// out[x]: the median of the 5 x 5 window whose columns are sorted[.][x]
+// ... sorted[.][x + 4].
+template <class T, class K = MedianKey<T>>
+HWY_INLINE void MedianOfSorted5(const K* const* sortedList, std::int64_t count, T* out)
+{
+    using MedianNetworks::median5;
+    constexpr std::size_t side = 5, result = MedianNetworks::median5Result;
+    const K* sorted[side];
+    for (std::size_t i = 0; i < side; ++i)
+        sorted[i] = sortedList[i];
+    const hn::ScalableTag<K> d;
+    const auto lanes = static_cast<std::int64_t>(hn::Lanes(d));
+    std::int64_t x = 0;
+    for (; x + lanes <= count; x += lanes) {
+        hn::Vec<decltype(d)> v[side * side];
+#pragma GCC unroll 5
+        for (std::size_t j = 0; j < side; ++j)
+#pragma GCC unroll 5
+            for (std::size_t i = 0; i < side; ++i)
+                v[side * j + i] = hn::LoadU(d, sorted[i] + x + j);
+        RunNetwork<VectorOrder, median5, std::size(median5)>(v);
+        StoreMedianKeys(d, v[result], out + x);
+    }
+    for (; x < count; ++x) {
+        K v[side * side];
+        for (std::size_t j = 0; j < side; ++j)
+            for (std::size_t i = 0; i < side; ++i)
+                v[side * j + i] = sorted[i][x + j];
+        RunNetwork<SampleOrder, median5, std::size(median5)>(v);
+        PutKey(v[result], out + x);
+    }
+}
+
+void MedianOfSortedColumns5(SampleKind kind, const void* const* sorted, std::int64_t count, void* out)
+{
+    WithMedianSample(kind, [&]<class T>(T) {
+        MedianOfSorted5(reinterpret_cast<const MedianKey<T>* const*>(sorted), count, static_cast<T*>(out));
+    });
+}
+
+// ---- Median 3 x 3 ---------------------------------------------------------------
+
+// The sorted columns of two 3-row windows one row apart, a b c and b c d:
+// b and c are ordered once for both.
 template <class Order, class V>
 HWY_INLINE void SortColumnPair(V a, V b, V c, V d, V* first, V* second)
 {
@@ -406,116 +521,212 @@ HWY_INLINE void SortColumnPair(V a, V b, V c, V d, V* first, V* second)
     second[2] = Order::High(d, high);
 }
 
-void SortColumnPairs3U8(const std::uint8_t* const* rowList, std::int64_t count,
-                        std::uint8_t* const* sortedList, const std::uint8_t* const* aheadList)
-{
-    const std::uint8_t *ahead = aheadList[0], *aheadToo = aheadList[1];
-    const std::uint8_t *a = rowList[0], *b = rowList[1], *c = rowList[2], *d = rowList[3];
-    std::uint8_t* sorted[6];
-    for (std::size_t i = 0; i < 6; ++i)
-        sorted[i] = sortedList[i];
-    const hn::ScalableTag<std::uint8_t> du;
-    using V = hn::Vec<decltype(du)>;
-    const auto lanes = static_cast<std::int64_t>(hn::Lanes(du));
-    std::int64_t x = 0;
-    for (; x + lanes <= count; x += lanes) {
-        if (ahead)
-            __builtin_prefetch(ahead + x);
-        if (aheadToo)
-            __builtin_prefetch(aheadToo + x);
-        V v[6];
-        SortColumnPair<VectorOrder>(hn::LoadU(du, a + x), hn::LoadU(du, b + x), hn::LoadU(du, c + x),
-                                    hn::LoadU(du, d + x), v, v + 3);
-#pragma GCC unroll 6
-        for (std::size_t i = 0; i < 6; ++i)
-            hn::StoreU(v[i], du, sorted[i] + x);
-    }
-    for (; x < count; ++x) {
-        std::uint8_t v[6];
-        SortColumnPair<SampleOrder>(a[x], b[x], c[x], d[x], v, v + 3);
-        for (std::size_t i = 0; i < 6; ++i)
-            sorted[i][x] = v[i];
-    }
-}
-
-// The median of three, of a 3 x 3 window from its sorted columns: the
-// greatest of the columns' least values, the median of their medians and
-// the least of their greatest values.
 template <class Order, class V>
 HWY_INLINE V MedianOfThree(V a, V b, V c)
 {
     return Order::High(Order::Low(a, b), Order::Low(Order::High(a, b), c));
 }
 
-template <class Order, class Load>
-HWY_INLINE auto MedianOfSorted3(Load load)
+// The median of a 3 x 3 window from its three sorted columns: the median
+// of the greatest of the columns' least values, the median of their
+// medians and the least of their greatest values.
+template <class Order, class V>
+HWY_INLINE V MedianOfSortedColumns(const V* left, const V* centre, const V* right)
 {
-    const auto least = Order::High(Order::High(load(0, 0), load(0, 1)), load(0, 2));
-    const auto greatest = Order::Low(Order::Low(load(2, 0), load(2, 1)), load(2, 2));
-    const auto middle = MedianOfThree<Order>(load(1, 0), load(1, 1), load(1, 2));
+    const V least = Order::High(Order::High(left[0], centre[0]), right[0]);
+    const V greatest = Order::Low(Order::Low(left[2], centre[2]), right[2]);
+    const V middle = MedianOfThree<Order>(left[1], centre[1], right[1]);
     return MedianOfThree<Order>(least, middle, greatest);
 }
 
-void MedianOfSortedColumns3(const std::uint8_t* const* sortedList, std::int64_t count, std::uint8_t* out,
-                            std::uint8_t* aheadOut)
+// The medians at x of the windows a b c and b c d: each of the three
+// columns is loaded straight from the rows (x - 1, x, x + 1 share their
+// cache lines) and sorted in registers, so that nothing is stored but the
+// results, and the loads of new input lines and the stores of new output
+// lines go on side by side.
+template <class Order, class Load, class V>
+HWY_INLINE void MedianPairAt(Load load, V& first, V& second)
 {
-    const std::uint8_t* sorted[3] = {sortedList[0], sortedList[1], sortedList[2]};
-    const hn::ScalableTag<std::uint8_t> du;
-    const auto lanes = static_cast<std::int64_t>(hn::Lanes(du));
-    std::int64_t x = 0;
-    for (; x + lanes <= count; x += lanes) {
-        if (aheadOut)
-            __builtin_prefetch(aheadOut + x, 1);
-        const auto load = [&](std::size_t rank, std::int64_t column) {
-            return hn::LoadU(du, sorted[rank] + x + column);
-        };
-        hn::StoreU(MedianOfSorted3<VectorOrder>(load), du, out + x);
-    }
-    for (; x < count; ++x) {
-        const auto load = [&](std::size_t rank, std::int64_t column) { return sorted[rank][x + column]; };
-        out[x] = MedianOfSorted3<SampleOrder>(load);
-    }
+    V sorted[3][6];
+#pragma GCC unroll 3
+    for (int column = 0; column < 3; ++column)
+        SortColumnPair<Order>(load(0, column - 1), load(1, column - 1), load(2, column - 1),
+                              load(3, column - 1), sorted[column], sorted[column] + 3);
+    first = MedianOfSortedColumns<Order>(sorted[0], sorted[1], sorted[2]);
+    second = MedianOfSortedColumns<Order>(sorted[0] + 3, sorted[1] + 3, sorted[2] + 3);
 }
 
-// out[x]: the median of the side x side window whose columns are
-// sorted[.][x] ... sorted[.][x + side - 1].
-template <std::size_t side, const Exchange* network, std::size_t size, std::size_t result>
-HWY_INLINE void MedianOf(const std::uint8_t* const* sortedList, std::int64_t count, std::uint8_t* out)
+template <class T>
+HWY_INLINE void Median3x3RowsOf(const T* const* rowList, std::int64_t first, std::int64_t last,
+                                T* const* outList, const T* const* aheadList)
 {
-    const std::uint8_t* sorted[side];
-    for (std::size_t i = 0; i < side; ++i)
-        sorted[i] = sortedList[i];
-    const hn::ScalableTag<std::uint8_t> d;
+    const T *a = rowList[0], *b = rowList[1], *c = rowList[2], *e = rowList[3];
+    T *out = outList[0], *outToo = outList[1];
+    const T *ahead = aheadList[0], *aheadToo = aheadList[1];
+    const T *aheadOut = aheadList[2], *aheadOutToo = aheadList[3];
+    const hn::ScalableTag<MedianKey<T>> d;
+    using V = hn::Vec<decltype(d)>;
     const auto lanes = static_cast<std::int64_t>(hn::Lanes(d));
-    std::int64_t x = 0;
-    for (; x + lanes <= count; x += lanes) {
-        hn::Vec<decltype(d)> v[side * side];
-#pragma GCC unroll 5
-        for (std::size_t j = 0; j < side; ++j)
-#pragma GCC unroll 5
-            for (std::size_t i = 0; i < side; ++i)
-                v[side * j + i] = hn::LoadU(d, sorted[i] + x + j);
-        RunNetwork<VectorOrder, network, size>(v);
-        hn::StoreU(v[result], d, out + x);
+    const auto vectorAt = [&](std::int64_t x) {
+        const auto load = [&](int row, int column) {
+            const T* rows[] = {a, b, c, e};
+            return LoadMedianKeys(d, rows[row] + x + column);
+        };
+        V v, w;
+        MedianPairAt<VectorOrder>(load, v, w);
+        StoreMedianKeys(d, v, out + x);
+        if (outToo)
+            StoreMedianKeys(d, w, outToo + x);
+    };
+    if (last - first >= lanes) {
+        std::int64_t x = first;
+        for (; x + lanes <= last; x += lanes) {
+            // One line of each row the next pair adds, per vector: spread
+            // out, the requests never queue up behind each other.
+            if (ahead)
+                __builtin_prefetch(ahead + x);
+            if (aheadToo)
+                __builtin_prefetch(aheadToo + x);
+            if (aheadOut)
+                __builtin_prefetch(aheadOut + x, 1);
+            if (aheadOutToo)
+                __builtin_prefetch(aheadOutToo + x, 1);
+            vectorAt(x);
+        }
+        // The last vector ends at `last`, overlapping the one before.
+        if (x < last)
+            vectorAt(last - lanes);
+        return;
     }
-    for (; x < count; ++x) {
-        std::uint8_t v[side * side];
-        for (std::size_t j = 0; j < side; ++j)
-            for (std::size_t i = 0; i < side; ++i)
-                v[side * j + i] = sorted[i][x + j];
-        RunNetwork<SampleOrder, network, size>(v);
-        out[x] = v[result];
+    for (std::int64_t x = first; x < last; ++x) {
+        const auto load = [&](int row, int column) {
+            const T* rows[] = {a, b, c, e};
+            return KeyAt(rows[row] + x + column);
+        };
+        MedianKey<T> v, w;
+        MedianPairAt<SampleOrder>(load, v, w);
+        PutKey(v, out + x);
+        if (outToo)
+            PutKey(w, outToo + x);
     }
 }
 
-void MedianOfSortedColumnsU8(const std::uint8_t* const* sorted, std::int64_t side, std::int64_t count,
-                             std::uint8_t* out, std::uint8_t* aheadOut)
+void Median3x3Rows(SampleKind kind, const void* const* rows, std::int64_t first, std::int64_t last,
+                   void* const* out, const void* const* ahead)
 {
-    using namespace MedianNetworks;
-    if (side == 3)
-        MedianOfSortedColumns3(sorted, count, out, aheadOut);
-    else
-        MedianOf<5, median5, std::size(median5), median5Result>(sorted, count, out);
+    WithMedianSample(kind, [&]<class T>(T) {
+        Median3x3RowsOf(reinterpret_cast<const T* const*>(rows), first, last,
+                        reinterpret_cast<T* const*>(out), reinterpret_cast<const T* const*>(ahead));
+    });
+}
+
+// ---- Box mean of integer samples ---------------------------------------------------
+
+// sums[x] = rows[0][x] + ... + rows[side - 1][x], exactly in 32 bits.
+template <class T>
+HWY_INLINE void BoxColumnSumsOf(const T* const* rows, std::int64_t side, std::int64_t count,
+                                std::int32_t* sums)
+{
+    const hn::ScalableTag<std::int32_t> di;
+    const hn::Rebind<T, decltype(di)> dt;
+    const auto lanes = static_cast<std::int64_t>(hn::Lanes(di));
+    std::int64_t x = 0;
+    for (; x + lanes <= count; x += lanes) {
+        auto sum = hn::PromoteTo(di, hn::LoadU(dt, rows[0] + x));
+        for (std::int64_t k = 1; k < side; ++k)
+            sum = hn::Add(sum, hn::PromoteTo(di, hn::LoadU(dt, rows[k] + x)));
+        hn::StoreU(sum, di, sums + x);
+    }
+    for (; x < count; ++x) {
+        std::int32_t sum = 0;
+        for (std::int64_t k = 0; k < side; ++k)
+            sum += rows[k][x];
+        sums[x] = sum;
+    }
+}
+
+void BoxColumnSums(SampleKind kind, const void* const* rows, std::int64_t side, std::int64_t count,
+                   std::int32_t* sums)
+{
+    WithIntegerSample(kind, [&]<class T>(T) {
+        BoxColumnSumsOf(reinterpret_cast<const T* const*>(rows), side, count, sums);
+    });
+}
+
+// sums[x] += added[x] - removed[x]: the window moved on by one row.
+template <class T>
+HWY_INLINE void BoxColumnSlideOf(const T* added, const T* removed, std::int64_t count, std::int32_t* sums)
+{
+    const hn::ScalableTag<std::int32_t> di;
+    const hn::Rebind<T, decltype(di)> dt;
+    const auto lanes = static_cast<std::int64_t>(hn::Lanes(di));
+    std::int64_t x = 0;
+    for (; x + lanes <= count; x += lanes) {
+        const auto change = hn::Sub(hn::PromoteTo(di, hn::LoadU(dt, added + x)),
+                                    hn::PromoteTo(di, hn::LoadU(dt, removed + x)));
+        hn::StoreU(hn::Add(hn::LoadU(di, sums + x), change), di, sums + x);
+    }
+    for (; x < count; ++x)
+        sums[x] += std::int32_t(added[x]) - std::int32_t(removed[x]);
+}
+
+void BoxColumnSlide(SampleKind kind, const void* added, const void* removed, std::int64_t count,
+                    std::int32_t* sums)
+{
+    WithIntegerSample(kind, [&]<class T>(T) {
+        BoxColumnSlideOf(static_cast<const T*>(added), static_cast<const T*>(removed), count, sums);
+    });
+}
+
+// The nearest integer to sum / divisor, for an odd divisor (no ties): an
+// estimate in single precision, then set right by the exact remainder.
+template <class D>
+HWY_INLINE hn::Vec<D> RoundedQuotient(D di, hn::Vec<D> sum, std::int32_t divisor)
+{
+    const hn::Rebind<float, D> df;
+    auto quotient =
+        hn::NearestInt(hn::Mul(hn::ConvertTo(df, sum), hn::Set(df, 1.0f / static_cast<float>(divisor))));
+    const auto twiceRest = hn::ShiftLeft<1>(hn::Sub(sum, hn::Mul(quotient, hn::Set(di, divisor))));
+    const auto one = hn::Set(di, 1);
+    quotient = hn::Add(quotient, hn::IfThenElseZero(hn::Gt(twiceRest, hn::Set(di, divisor)), one));
+    return hn::Sub(quotient, hn::IfThenElseZero(hn::Lt(twiceRest, hn::Set(di, -divisor)), one));
+}
+
+HWY_INLINE std::int32_t RoundedQuotient(std::int32_t sum, std::int32_t divisor)
+{
+    const std::int64_t twice = 2 * std::int64_t(sum) + divisor, by = 2 * std::int64_t(divisor);
+    return static_cast<std::int32_t>(twice >= 0 ? twice / by : -((-twice + by - 1) / by));
+}
+
+// out[x] = the nearest integer to (padded[x] + ... + padded[x + side - 1])
+// / divisor.
+template <class T>
+HWY_INLINE void BoxRowOf(const std::int32_t* padded, std::int64_t side, std::int64_t count,
+                         std::int32_t divisor, T* out)
+{
+    const hn::ScalableTag<std::int32_t> di;
+    const hn::Rebind<T, decltype(di)> dt;
+    const auto lanes = static_cast<std::int64_t>(hn::Lanes(di));
+    std::int64_t x = 0;
+    for (; x + lanes <= count; x += lanes) {
+        auto sum = hn::LoadU(di, padded + x);
+        for (std::int64_t k = 1; k < side; ++k)
+            sum = hn::Add(sum, hn::LoadU(di, padded + x + k));
+        hn::StoreU(hn::DemoteTo(dt, RoundedQuotient(di, sum, divisor)), dt, out + x);
+    }
+    for (; x < count; ++x) {
+        std::int32_t sum = 0;
+        for (std::int64_t k = 0; k < side; ++k)
+            sum += padded[x + k];
+        out[x] = static_cast<T>(RoundedQuotient(sum, divisor));
+    }
+}
+
+void BoxRow(SampleKind kind, const std::int32_t* padded, std::int64_t side, std::int64_t count,
+            std::int32_t divisor, void* out)
+{
+    WithIntegerSample(kind,
+                      [&]<class T>(T) { BoxRowOf(padded, side, count, divisor, static_cast<T*>(out)); });
 }
 
 } // namespace Quilon_::Basic::Images::Operators::HWY_NAMESPACE
@@ -528,9 +739,12 @@ HWY_EXPORT(GaussianColumnsU8);
 HWY_EXPORT(GaussianColumnsF32);
 HWY_EXPORT(GaussianRowF32);
 HWY_EXPORT(GaussianRowU8);
-HWY_EXPORT(SortColumnsU8);
-HWY_EXPORT(SortColumnPairs3U8);
-HWY_EXPORT(MedianOfSortedColumnsU8);
+HWY_EXPORT(SortColumns5);
+HWY_EXPORT(MedianOfSortedColumns5);
+HWY_EXPORT(Median3x3Rows);
+HWY_EXPORT(BoxColumnSums);
+HWY_EXPORT(BoxColumnSlide);
+HWY_EXPORT(BoxRow);
 
 void GaussianColumns(const std::uint8_t* const* rows, const float* weights, std::int64_t radius,
                      std::int64_t count, std::int64_t n, float* const* out)
@@ -556,22 +770,39 @@ void GaussianRow(const float* padded, const float* weights, std::int64_t radius,
     HWY_DYNAMIC_DISPATCH(GaussianRowU8)(padded, weights, radius, count, out);
 }
 
-void SortColumns(const std::uint8_t* const* rows, std::int64_t side, std::int64_t count,
-                 std::uint8_t* const* sorted, const std::uint8_t* ahead)
+void SortColumns5(SampleKind kind, const void* const* rows, std::int64_t count, void* const* sorted,
+                  const void* ahead)
 {
-    HWY_DYNAMIC_DISPATCH(SortColumnsU8)(rows, side, count, sorted, ahead);
+    HWY_DYNAMIC_DISPATCH(SortColumns5)(kind, rows, count, sorted, ahead);
 }
 
-void SortColumnPairs3(const std::uint8_t* const* rows, std::int64_t count, std::uint8_t* const* sorted,
-                      const std::uint8_t* const* ahead)
+void MedianOfSortedColumns5(SampleKind kind, const void* const* sorted, std::int64_t count, void* out)
 {
-    HWY_DYNAMIC_DISPATCH(SortColumnPairs3U8)(rows, count, sorted, ahead);
+    HWY_DYNAMIC_DISPATCH(MedianOfSortedColumns5)(kind, sorted, count, out);
 }
 
-void MedianOfSortedColumns(const std::uint8_t* const* sorted, std::int64_t side, std::int64_t count,
-                           std::uint8_t* out, std::uint8_t* aheadOut)
+void Median3x3Rows(SampleKind kind, const void* const* rows, std::int64_t first, std::int64_t last,
+                   void* const* out, const void* const* ahead)
 {
-    HWY_DYNAMIC_DISPATCH(MedianOfSortedColumnsU8)(sorted, side, count, out, aheadOut);
+    HWY_DYNAMIC_DISPATCH(Median3x3Rows)(kind, rows, first, last, out, ahead);
+}
+
+void BoxColumnSums(SampleKind kind, const void* const* rows, std::int64_t side, std::int64_t count,
+                   std::int32_t* sums)
+{
+    HWY_DYNAMIC_DISPATCH(BoxColumnSums)(kind, rows, side, count, sums);
+}
+
+void BoxColumnSlide(SampleKind kind, const void* added, const void* removed, std::int64_t count,
+                    std::int32_t* sums)
+{
+    HWY_DYNAMIC_DISPATCH(BoxColumnSlide)(kind, added, removed, count, sums);
+}
+
+void BoxRow(SampleKind kind, const std::int32_t* padded, std::int64_t side, std::int64_t count,
+            std::int32_t divisor, void* out)
+{
+    HWY_DYNAMIC_DISPATCH(BoxRow)(kind, padded, side, count, divisor, out);
 }
 
 } // namespace Quilon_::Basic::Images::Operators

@@ -138,6 +138,8 @@ void BoxMean(Samples<C>& samples, const std::vector<int>& slots, std::int64_t si
 void Box(ImageRef source, ImageRef destination, std::int64_t side)
 {
     const std::vector<int> slots = SpatialSlots(source);
+    if (BoxFast(source, destination, side, BorderRule{}))
+        return;
     if (side >= 1 && side % 2 == 1 &&
         SymmetricSeparableFast(
             source, destination,

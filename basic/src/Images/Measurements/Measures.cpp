@@ -82,6 +82,8 @@ std::pair<double, double> Extremes(const ImageRef& image, const MaskRef& mask)
 {
     if (double low = 0, high = 0; !mask && Pointwise::Extremes(image, low, high))
         return {low, high};
+    if (double low = 0, high = 0; mask && Pointwise::Extremes(image, ImageRef(mask), low, high))
+        return {low, high};
     return Measured(image, mask, [](const auto& samples, const Samples<double>* weights) {
         double low = std::numeric_limits<double>::infinity(), high = -low;
         ForEachWeighted(samples, weights, [&](auto v, double, std::int64_t) {

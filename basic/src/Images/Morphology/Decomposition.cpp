@@ -82,7 +82,8 @@ void AddGroup(Decomposition& plan, SpanGroup group)
         return keys;
     };
     return ordered(Recomposed(plan)) == ordered(shifts) &&
-           (!plan.chain || ordered(Recomposed(*plan.chain)) == ordered(shifts));
+           (!plan.chain || ordered(Recomposed(*plan.chain)) == ordered(shifts)) &&
+           (!plan.line || ordered(Recomposed(*plan.line)) == ordered(shifts));
 }
 
 } // namespace
@@ -154,7 +155,37 @@ Decomposition Decompose(std::span<const Shift> shifts)
         (plan.chain->terms.size() > mostChainTerms ||
          plan.chain->rows.size() + plan.chain->terms.size() + plan.chain->StageCount() > offsets))
         plan.chain.reset();
+    plan.line = RowLineOf(shifts);
+    if (plan.line && plan.line->length < shortestRowLine)
+        plan.line.reset();
     return plan;
+}
+
+std::optional<RowLine> RowLineOf(std::span<const Shift> shifts)
+{
+    if (shifts.empty())
+        return std::nullopt;
+    std::vector<Shift> sorted(shifts.begin(), shifts.end());
+    std::sort(sorted.begin(), sorted.end(), [](const Shift& a, const Shift& b) { return a.dy < b.dy; });
+    RowLine line{sorted[0].dx, sorted[0].dy, 0, std::int64_t(sorted.size())};
+    if (sorted.size() > 1)
+        line.step = sorted[1].dx - sorted[0].dx;
+    if (line.step < -1 || line.step > 1)
+        return std::nullopt;
+    for (std::size_t t = 0; t < sorted.size(); ++t) {
+        const Shift& s = sorted[t];
+        if (s.dz != 0 || s.dy != line.y0 + std::int64_t(t) || s.dx != line.x0 + line.step * std::int64_t(t))
+            return std::nullopt;
+    }
+    return line;
+}
+
+std::vector<Shift> Recomposed(const RowLine& line)
+{
+    std::vector<Shift> shifts;
+    for (std::int64_t t = 0; t < line.length; ++t)
+        shifts.push_back({line.x0 + line.step * t, line.y0 + t, 0});
+    return shifts;
 }
 
 std::optional<ChainedElement> Chained(std::span<const Shift> shifts)

@@ -24,6 +24,7 @@
 
 #include "Images/Morphology/MorphologyKernels.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -70,6 +71,35 @@ struct ChainedElement {
     std::size_t StageBegin(std::size_t k) const { return k == 0 ? 0 : stageEnds[k - 1]; }
 };
 
+// A line going down the rows of a plane, vertical or diagonal: offset t
+// (0 <= t < length) is (x0 + step * t, y0 + t, 0), step -1, 0 or 1. A
+// long one is folded by doubling over rows (see RowErosion.cpp), so that
+// it costs about log2(length) folds per output row, as a long horizontal
+// line does.
+struct RowLine {
+    std::int64_t x0 = 0;
+    std::int64_t y0 = 0;
+    std::int64_t step = 0;
+    std::int64_t length = 0;
+
+    // The samples the rows of its folds need on either side.
+    std::int64_t Padding() const
+    {
+        const std::int64_t last = x0 + step * (length - 1);
+        return std::max(x0 < 0 ? -x0 : x0, last < 0 ? -last : last);
+    }
+};
+
+// Lines down the rows shorter than this are read directly, one shifted row
+// per offset.
+inline constexpr std::int64_t shortestRowLine = 8;
+
+// The element as a line down the rows, or nothing when it is not one.
+std::optional<RowLine> RowLineOf(std::span<const Shift> shifts);
+
+// Every offset of the line.
+std::vector<Shift> Recomposed(const RowLine& line);
+
 // Elements read by more terms than this take the span groups, whose long
 // spans fold by doubling.
 inline constexpr std::size_t mostChainTerms = 11;
@@ -78,6 +108,9 @@ struct Decomposition {
     // The chained form, when the element's columns nest and it has at most
     // mostChainTerms columns; the fields below serve every element.
     std::optional<ChainedElement> chain;
+    // The line down the rows, when the element is one of at least
+    // shortestRowLine offsets; it then takes precedence over the rest.
+    std::optional<RowLine> line;
     // Offsets read directly, one shifted row each: single samples, and the
     // short span of a row that no group covers.
     std::vector<Shift> points;

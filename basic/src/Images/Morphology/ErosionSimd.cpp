@@ -9,6 +9,7 @@
 
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "Images/Morphology/ErosionSimd.cpp"
+#include <hwy/cache_control.h>
 #include <hwy/foreach_target.h>
 #include <hwy/highway.h>
 
@@ -193,12 +194,59 @@ HWY_INLINE std::int64_t SweepStages(D d, T* const* buffers, const T* const* rows
     return i;
 }
 
+// SweepStages for one shape of chain, `Counts` rows per stage, fixed at
+// compile time: the loops unroll and every pointer stays in a register
+// (the general loop reloads them and branches per row and stage, which
+// costs more than the folds themselves).
+template <bool Maximum, std::size_t... Counts, class D, class T>
+HWY_INLINE std::int64_t SweepShape(D d, T* const* buffers, const T* const* rows, std::int64_t i,
+                                   std::int64_t n)
+{
+    constexpr std::size_t stages = sizeof...(Counts), total = (Counts + ...);
+    constexpr std::size_t counts[] = {Counts...};
+    constexpr T neutral = Maximum ? Lowest<T>() : Highest<T>();
+    const T* from[total];
+    T* into[stages];
+    for (std::size_t s = 0; s < total; ++s)
+        from[s] = rows[s];
+    for (std::size_t k = 0; k < stages; ++k)
+        into[k] = buffers[k];
+    const auto lanes = static_cast<std::int64_t>(hn::Lanes(d));
+    for (; i + lanes <= n; i += lanes) {
+        auto acc = hn::Set(d, neutral);
+        std::size_t s = 0;
+#pragma GCC unroll 4
+        for (std::size_t k = 0; k < stages; ++k) {
+#pragma GCC unroll 4
+            for (std::size_t c = 0; c < counts[k]; ++c, ++s)
+                acc = FoldVector<Maximum>(d, acc, hn::LoadU(d, from[s] + i));
+            hn::StoreU(acc, d, into[k] + i);
+        }
+    }
+    return i;
+}
+
+// The shapes of the common elements away from the volume's edges: the
+// square of side 3 (one stage of 3 rows) and the disk of radius 2 (rows
+// 0; -1 and 1; -2 and 2).
+template <bool Maximum, class D, class T>
+HWY_INLINE std::int64_t SweepKnownShape(D d, T* const* buffers, const T* const* rows, const std::size_t* ends,
+                                        std::size_t stages, std::int64_t n)
+{
+    if (stages == 1 && ends[0] == 3)
+        return SweepShape<Maximum, 3>(d, buffers, rows, 0, n);
+    if (stages == 3 && ends[0] == 1 && ends[1] == 3 && ends[2] == 5)
+        return SweepShape<Maximum, 1, 2, 2>(d, buffers, rows, 0, n);
+    return 0;
+}
+
 template <bool Maximum, class T>
 void SweepStagesOf(T* const* buffers, const T* const* rows, const std::size_t* ends, std::size_t stages,
                    std::int64_t n)
 {
     const hn::ScalableTag<T> d;
-    std::int64_t i = SweepStages<Maximum>(d, buffers, rows, ends, stages, 0, n);
+    std::int64_t i = SweepKnownShape<Maximum>(d, buffers, rows, ends, stages, n);
+    i = SweepStages<Maximum>(d, buffers, rows, ends, stages, i, n);
 #if HWY_TARGET != HWY_SCALAR
     if (n - i >= std::int64_t(16 / sizeof(T)))
         i = SweepStages<Maximum>(hn::CappedTag<T, 16 / sizeof(T)>(), buffers, rows, ends, stages, i, n);
@@ -216,13 +264,36 @@ void SweepStagesOf(T* const* buffers, const T* const* rows, const std::size_t* e
     }
 }
 
+// The rows that output row r + ahead reads first, the lowest of the
+// element in each of its planes, are fetched ahead a chunk at a time: each
+// is a new page, where the processor's own prefetching starts late, and
+// waiting for them costs more than the folds.
+struct LowestRows {
+    static constexpr std::int64_t ahead = 2;
+    static constexpr std::size_t most = 8;
+    std::size_t index[most];
+    std::size_t count = 0;
+
+    explicit LowestRows(const ChainedElement& chain)
+    {
+        for (std::size_t i = 0; i < chain.rows.size() && count < most; ++i) {
+            bool lowest = true;
+            for (const RowOffset& other : chain.rows)
+                lowest = lowest && !(other.dz == chain.rows[i].dz && other.dy > chain.rows[i].dy);
+            if (lowest)
+                index[count++] = i;
+        }
+    }
+};
+
 // Output row r (y + ny * z), a chunk of ChainChunkSamples samples at a
 // time: each stage is folded into its buffer over the chunk and `padding`
 // samples either side, then the terms from the buffers into the output.
 // The buffers stay small, so that they and the input rows that the next
 // output row reads again stay in the first level cache.
 template <bool Maximum, class T>
-void FoldChainRow(const ChainedElement& chain, const ChainBand<T>& band, std::int64_t r, bool swept)
+void FoldChainRow(const ChainedElement& chain, const ChainBand<T>& band, std::int64_t r, bool swept,
+                  const LowestRows& lowest)
 {
     constexpr T neutral = Maximum ? Lowest<T>() : Highest<T>();
     const std::size_t stages = chain.StageCount();
@@ -247,15 +318,33 @@ void FoldChainRow(const ChainedElement& chain, const ChainBand<T>& band, std::in
         }
         ends[std::min(k, mostSweptRows - 1)] = count;
     }
+    const T* ahead[LowestRows::most];
+    std::size_t aheadCount = 0;
+    for (std::size_t i = 0; i < lowest.count; ++i) {
+        const RowOffset& row = chain.rows[lowest.index[i]];
+        const std::int64_t ry = y + row.dy + LowestRows::ahead, rz = z + row.dz;
+        if (ry >= 0 && ry < band.ny && rz >= 0 && rz < band.nz)
+            ahead[aheadCount++] = band.in + ry * band.inRowStride + rz * band.inPlaneStride;
+    }
     T* target = band.out + y * band.outRowStride + z * band.outPlaneStride;
+    // The stages are folded over the whole of their buffers, not just the
+    // padding the terms read: the buffers' stores then fall on whole cache
+    // lines, and a store split over two lines costs two.
+    const std::int64_t lead = ChainBufferLead(padding, sizeof(T));
+    const std::int64_t trail = ChainBufferLead(chunk + padding, sizeof(T)) - chunk;
     for (std::int64_t x0 = 0; x0 < nx; x0 += chunk) {
         const std::int64_t x1 = std::min(nx, x0 + chunk);
-        const std::int64_t from = std::max<std::int64_t>(0, x0 - padding), to = std::min(nx, x1 + padding);
+        const std::int64_t from = std::max<std::int64_t>(0, x0 - lead), to = std::min(nx, x1 + trail);
         // Outside the row reads as neutral.
         for (std::size_t k = 0; k < stages; ++k) {
-            std::fill(buffer(k) - padding, buffer(k) + (from - x0), neutral);
-            std::fill(buffer(k) + (to - x0), buffer(k) + (x1 - x0) + padding, neutral);
+            if (from - x0 > -padding)
+                std::fill(buffer(k) - padding, buffer(k) + (from - x0), neutral);
+            if (to - x1 < padding)
+                std::fill(buffer(k) + (to - x0), buffer(k) + (x1 - x0) + padding, neutral);
         }
+        for (std::size_t a = 0; a < aheadCount; ++a)
+            for (std::int64_t x = x0; x < x1; x += std::int64_t(64 / sizeof(T)))
+                hwy::Prefetch(ahead[a] + x);
         if (swept) {
             const T* sources[mostSweptRows];
             T* targets[mostSweptRows];
@@ -290,8 +379,9 @@ template <bool Maximum, class T>
 void FoldChainBandOf(const ChainedElement& chain, const ChainBand<T>& band)
 {
     const bool swept = chain.rows.size() <= mostSweptRows && chain.StageCount() <= mostSweptRows;
+    const LowestRows lowest(chain);
     for (std::int64_t r = band.firstRow; r < band.lastRow; ++r)
-        FoldChainRow<Maximum>(chain, band, r, swept);
+        FoldChainRow<Maximum>(chain, band, r, swept, lowest);
 }
 
 template <class T>

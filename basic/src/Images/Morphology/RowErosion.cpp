@@ -190,6 +190,136 @@ T* ChainScratchOf(std::int64_t samples)
     return reinterpret_cast<T*>((address + 63) / 64 * 64);
 }
 
+// Fetches the rows of output row (y, z) that lie lowest in each plane of
+// the offsets: the rows it reads first, each a new page, where the
+// processor's own prefetching starts late.
+template <class T>
+void PrefetchLowestRows(const Grid& grid, RowVolume<const T> in, std::span<const Shift> shifts,
+                        std::int64_t y, std::int64_t z)
+{
+    // Many offsets are many rows, which the folds already take a few at a
+    // time; finding the lowest ones would cost more than it saves.
+    constexpr std::size_t mostShifts = 16;
+    if (shifts.size() > mostShifts)
+        return;
+    for (const Shift& s : shifts) {
+        bool lowest = true, first = true;
+        for (const Shift& other : shifts) {
+            lowest = lowest && !(other.dz == s.dz && other.dy > s.dy);
+            first = first && !(&other < &s && other.dz == s.dz && other.dy == s.dy);
+        }
+        if (!lowest || !first || !grid.Contains(0, y + s.dy, z + s.dz))
+            continue;
+        const T* row = in.Row(y + s.dy, z + s.dz);
+        for (std::int64_t x = 0; x < grid.nx; x += std::int64_t(64 / sizeof(T)))
+            hwy::Prefetch(row + x);
+    }
+}
+
+// The rows of one level of a line's doubling that are still to be read,
+// in a ring: row j of the level at place (j - base) % size.
+template <class T>
+struct LineLevel {
+    T* rows = nullptr;
+    std::int64_t size = 0;
+
+    T* Row(std::int64_t j, std::int64_t base, std::int64_t width) const
+    {
+        return rows + (j - base) % size * width;
+    }
+};
+
+// Output rows [ya, yb) of plane z eroded by a line down the rows, by
+// doubling: level m holds, for each row j, the fold of the line's first m
+// offsets laid from row j (x shifted by x0), for m = 1, 2, 4 ... up to
+// the largest power of two p within the line, and an output row is the
+// fold of two rows of level p. Each level keeps only the rows the next one
+// still reads, so the rings (about `length` rows in all) stay in the cache,
+// and an output row costs log2(p) + 1 folds of two rows whatever the
+// length. Rows of every level are padded with `padding` samples either
+// side: samples outside the row read as neutral.
+template <class T>
+void FoldLineRows(const Grid& grid, RowVolume<const T> in, RowVolume<T> out, const RowLine& line,
+                  bool maximum, std::int64_t z, std::int64_t ya, std::int64_t yb, bool streamed)
+{
+    const std::int64_t nx = grid.nx, length = line.length, step = line.step;
+    const std::int64_t padding = line.Padding(), width = nx + 2 * padding;
+    std::int64_t p = 1;
+    while (2 * p <= length)
+        p *= 2;
+    // Level 1 is the input row itself when nothing is shifted, else a
+    // padded copy; level m < p is read up to m rows back, level p up to
+    // length - p rows back.
+    constexpr std::size_t mostLevels = 64;
+    std::array<LineLevel<T>, mostLevels> levels;
+    std::size_t levelCount = 0;
+    std::int64_t ringRows = 1; // the neutral row
+    for (std::int64_t m = 1; m <= p; m *= 2) {
+        levels[levelCount++].size = m < p ? m + 1 : length - p + 1;
+        ringRows += levels[levelCount - 1].size;
+    }
+    const FoldScratch<T> scratch = FoldScratchOf<T>(ringRows * width, 2);
+    T* neutralRow = scratch.buffer;
+    std::fill(neutralRow, neutralRow + width, NeutralOf<T>(maximum));
+    T* next = neutralRow + width;
+    for (std::size_t k = 0; k < levelCount; ++k) {
+        levels[k].rows = next;
+        next += levels[k].size * width;
+    }
+    const bool direct = padding == 0;
+    const std::int64_t base = ya + line.y0; // the first row of every level that is read
+    // Where row j of level 1 starts (its padding before it).
+    const auto firstLevelRow = [&](std::int64_t j) -> const T* {
+        if (j < 0 || j >= grid.ny)
+            return neutralRow;
+        if (direct)
+            return in.Row(j, z);
+        T* row = levels[0].Row(j, base, width);
+        std::fill(row, row + padding, NeutralOf<T>(maximum));
+        std::memcpy(row + padding, in.Row(j, z), std::size_t(nx) * sizeof(T));
+        std::fill(row + padding + nx, row + width, NeutralOf<T>(maximum));
+        return row;
+    };
+    std::array<const T*, 2> firstRows{}; // level 1 of rows J - 1 and J
+    const auto levelRow = [&](std::size_t k, std::int64_t j) -> const T* {
+        if (k == 0)
+            return firstRows[std::size_t((j - base) % 2)];
+        return levels[k].Row(j, base, width);
+    };
+    const std::int64_t lastInputRow = yb - 1 + line.y0 + length - 1;
+    const Shift first{0, 0, 0};
+    for (std::int64_t J = base; J <= lastInputRow; ++J) {
+        PrefetchLowestRows(grid, in, std::span(&first, 1), J + 2, z);
+        firstRows[std::size_t((J - base) % 2)] = firstLevelRow(J);
+        std::int64_t half = 1;
+        for (std::size_t k = 1; k < levelCount; ++k, half *= 2) {
+            const std::int64_t j = J - 2 * half + 1;
+            if (j < base)
+                break;
+            // Level 2h at j folds level h at j with level h at j + h,
+            // shifted along x; where the shift leaves the padded row, only
+            // neutral samples would be read.
+            const T* a = levelRow(k - 1, j);
+            const T* b = levelRow(k - 1, j + half);
+            T* target = levels[k].Row(j, base, width);
+            const std::int64_t shift = step * half;
+            const std::int64_t from = std::max<std::int64_t>(0, -shift), to = std::min(width, width - shift);
+            const T* pair[] = {a + from, b + from + shift};
+            FoldRows(maximum, target + from, pair, 2, to - from);
+            std::copy(a, a + from, target);
+            std::copy(a + to, a + width, target + to);
+        }
+        const std::int64_t y = J + 1 - line.y0 - length;
+        if (y < ya)
+            continue;
+        const std::size_t top = levelCount - 1;
+        const std::int64_t x0 = padding + line.x0;
+        const T* pair[] = {levelRow(top, y + line.y0) + x0,
+                           levelRow(top, y + line.y0 + length - p) + x0 + step * (length - p)};
+        FoldRows(maximum, out.Row(y, z), pair, length == p ? 1 : 2, nx, streamed);
+    }
+}
+
 // Rows [firstRow, lastRow) of the pass, a row numbered y + ny * z.
 template <class T>
 void FoldRowRange(const Grid& grid, RowVolume<const T> in, RowVolume<T> out, const Decomposition& plan,
@@ -199,7 +329,13 @@ void FoldRowRange(const Grid& grid, RowVolume<const T> in, RowVolume<T> out, con
     // soon, and a line that is only written need not be read first. Only
     // the last write of a row is streamed.
     const bool stream = grid.Count() * std::int64_t(sizeof(T)) >= streamedBytes;
-    if (plan.chain) {
+    if (plan.line) {
+        for (std::int64_t r = firstRow; r < lastRow;) {
+            const std::int64_t z = r / grid.ny, end = std::min(lastRow, (z + 1) * grid.ny);
+            FoldLineRows(grid, in, out, *plan.line, maximum, z, r - z * grid.ny, end - z * grid.ny, stream);
+            r = end;
+        }
+    } else if (plan.chain) {
         const ChainedElement& chain = *plan.chain;
         T* scratch = ChainScratchOf<T>(std::int64_t(chain.StageCount()) *
                                        ChainBufferSamples(chain.padding, grid.nx, sizeof(T)));
@@ -211,6 +347,7 @@ void FoldRowRange(const Grid& grid, RowVolume<const T> in, RowVolume<T> out, con
             FoldScratchOf<T>(plan.groups.empty() ? 0 : grid.nx + 2 * plan.padding, plan.widestFold + 2);
         for (std::int64_t r = firstRow; r < lastRow; ++r) {
             const std::int64_t y = r % grid.ny, z = r / grid.ny;
+            PrefetchLowestRows(grid, in, plan.points, y + 2, z);
             T* target = out.Row(y, z);
             bool written = FoldPoints(grid, in, plan.points, y, z, maximum, stream && plan.groups.empty(),
                                       target, scratch.sources);
@@ -226,17 +363,21 @@ void FoldRowRange(const Grid& grid, RowVolume<const T> in, RowVolume<T> out, con
 }
 
 // The work of one output sample, in units of a pass that reads and writes
-// it once. A chained element of up to about 16 reads a sample costs what
-// such a pass costs (the input and the output move through memory once,
-// the folds in between stay in the cache), so that an image under about
-// 256 x 256 stays on the calling thread.
+// it once. An element of up to about 16 reads a sample, chained or read
+// directly, costs what such a pass costs (the input and the output move
+// through memory once, the reads in between hit the cache), so that an
+// image under about 256 x 256 stays on the calling thread.
 std::int64_t SampleCostOf(const Decomposition& plan)
 {
+    // A line down the rows is folded in rings of rows that stay in the
+    // cache: it costs what such a pass costs too.
+    if (plan.line)
+        return 1;
     if (plan.chain)
         return 1 +
                std::int64_t(plan.chain->rows.size() + plan.chain->StageCount() + plan.chain->terms.size()) /
                    16;
-    return std::int64_t(plan.points.size() + 2 * plan.groups.size());
+    return 1 + std::int64_t(plan.points.size() + 2 * plan.groups.size()) / 16;
 }
 
 template <class T>

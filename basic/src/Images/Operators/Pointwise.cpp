@@ -44,13 +44,21 @@ bool SameExtent(const AnyView& a, const AnyView& b)
 }
 
 // Calls body(first, last) over [0, count) samples, in bands on the pool when
-// the run is large.
+// the run is large. Given the output and its sample size, the blocks after
+// the first begin on a cache line of the output, so that only the first
+// block has results to store one by one before its vectors.
 template <class Body>
-void ForEachBlock(std::int64_t count, Body&& body)
+void ForEachBlock(std::int64_t count, Body&& body, const void* out = nullptr, std::int64_t bytes = 1)
 {
-    const std::int64_t blocks = (count + pointwiseBlock - 1) / pointwiseBlock;
+    constexpr std::int64_t line = 64;
+    const auto address = static_cast<std::int64_t>(reinterpret_cast<std::uintptr_t>(out) % line);
+    const std::int64_t head = address % bytes == 0 ? (line - address) % line / bytes : 0;
+    const std::int64_t blocks = count <= head ? 1 : (count - head + pointwiseBlock - 1) / pointwiseBlock;
+    const auto edge = [&](std::int64_t block) {
+        return block == 0 ? 0 : std::min(count, head + block * pointwiseBlock);
+    };
     Basic::Threading::ParallelBands(blocks, pointwiseBlock, [&](std::int64_t first, std::int64_t last) {
-        body(first * pointwiseBlock, std::min(count, last * pointwiseBlock));
+        body(edge(first), edge(last));
     });
 }
 
@@ -113,13 +121,16 @@ bool Threshold(const ImageRef& source, const ImageRef& destination, double lower
         T lo{}, hi{};
         const bool any = SelectedSampleRange(lower, upper, lo, hi);
         const bool streamed = Streamed(count, 1, result, {samples});
-        ForEachBlock(count, [&](std::int64_t first, std::int64_t last) {
-            if (any)
-                ThresholdSamples(*kind, samples + first, result + first, last - first, &lo, &hi, set,
-                                 streamed);
-            else
-                std::memset(result + first, 0, static_cast<std::size_t>(last - first));
-        });
+        ForEachBlock(
+            count,
+            [&](std::int64_t first, std::int64_t last) {
+                if (any)
+                    ThresholdSamples(*kind, samples + first, result + first, last - first, &lo, &hi, set,
+                                     streamed);
+                else
+                    std::memset(result + first, 0, static_cast<std::size_t>(last - first));
+            },
+            result);
     });
     return true;
 }
@@ -137,11 +148,14 @@ bool Sum(const ImageRef& a, const ImageRef& b, const ImageRef& output, bool subt
         DenseRun(y.bytes, bytes) != count)
         return false;
     const bool streamed = Streamed(count, bytes, z.bytes.data, {x.bytes.data, y.bytes.data});
-    ForEachBlock(count, [&](std::int64_t first, std::int64_t last) {
-        const std::int64_t offset = first * bytes;
-        SumSamples(*kind, subtract, x.bytes.data + offset, y.bytes.data + offset, z.bytes.data + offset,
-                   last - first, streamed);
-    });
+    ForEachBlock(
+        count,
+        [&](std::int64_t first, std::int64_t last) {
+            const std::int64_t offset = first * bytes;
+            SumSamples(*kind, subtract, x.bytes.data + offset, y.bytes.data + offset, z.bytes.data + offset,
+                       last - first, streamed);
+        },
+        z.bytes.data, bytes);
     return true;
 }
 
@@ -209,6 +223,15 @@ void CountSelectedWords(const std::uint16_t* samples, const std::uint8_t* select
         counts[samples[i]] += selected[i];
 }
 
+// The kind a mask is read as, for "not 0" only: its 1-, 2- and 4-bit types
+// read as the bytes they are stored in.
+std::optional<SampleKind> MaskKindOf(System::NumericTypeEnum type)
+{
+    if (type == System::ntUInt1 || type == System::ntUInt2 || type == System::ntUInt4)
+        return SampleKind::u8;
+    return SampleKindOf(type);
+}
+
 // The table of an image's 8- or 16-bit samples: 256 or 65536 entries, or
 // 0 for other types.
 std::size_t ValueTableSize(System::NumericTypeEnum type)
@@ -265,13 +288,7 @@ bool CountValues(const ImageRef& image, std::vector<std::int64_t>& counts)
 bool CountValues(const ImageRef& image, const ImageRef& mask, std::vector<std::int64_t>& counts)
 {
     const std::size_t values = ValueTableSize(DataTypeOf(image));
-    // Only "not 0" is asked of the mask: its 1-, 2- and 4-bit types read as
-    // the bytes they are stored in.
-    const System::NumericTypeEnum maskType = DataTypeOf(mask);
-    const std::optional<SampleKind> maskKind =
-        maskType == System::ntUInt1 || maskType == System::ntUInt2 || maskType == System::ntUInt4
-            ? SampleKind::u8
-            : SampleKindOf(maskType);
+    const std::optional<SampleKind> maskKind = MaskKindOf(DataTypeOf(mask));
     if (values == 0 || !maskKind)
         return false;
     const std::int64_t size = values == 256 ? 1 : 2, maskSize = SampleKindBytes(*maskKind);
@@ -295,15 +312,47 @@ bool CountValues(const ImageRef& image, const ImageRef& mask, std::vector<std::i
     return true;
 }
 
-bool Extremes(const ImageRef& image, double& low, double& high)
+namespace {
+
+// The extremes of samples [first, last) whose `selected` byte (indexed
+// from `first`; null: all) is 1, NaN passed over; false when none is left.
+// As std::min and std::max: a later equal value does not replace an
+// earlier one. Branch-free, so a mask of random shape costs no misprediction.
+template <class T>
+bool ExtremesOfBlock(const T* samples, const std::uint8_t* selected, std::int64_t count, T& low, T& high)
 {
-    const System::NumericTypeEnum type = DataTypeOf(image);
-    const std::optional<SampleKind> kind = SampleKindOf(type);
-    if (!kind)
+    using L = std::numeric_limits<T>;
+    T lo = L::has_infinity ? L::infinity() : L::max();
+    T hi = L::has_infinity ? -L::infinity() : L::lowest();
+    bool any = false;
+    for (std::int64_t i = 0; i < count; ++i) {
+        const T v = samples[i];
+        const bool take = (!selected || selected[i] != 0) && v == v;
+        any = any || take;
+        lo = take && v < lo ? v : lo;
+        hi = take && hi < v ? v : hi;
+    }
+    low = lo;
+    high = hi;
+    return any;
+}
+
+// Extremes of a dense image, over the samples where a dense mask of the
+// same extent (with its kind) is not 0, or over all without one.
+bool ExtremesOf(const ImageRef& image, const ImageRef* mask, double& low, double& high)
+{
+    const std::optional<SampleKind> kind = SampleKindOf(DataTypeOf(image));
+    const std::optional<SampleKind> maskKind =
+        mask ? MaskKindOf(DataTypeOf(*mask)) : std::optional<SampleKind>(SampleKind::u8);
+    if (!kind || !maskKind)
         return false;
     const AnyView view = AnyViewOf(image);
     const std::int64_t count = DenseRun(view.bytes, SampleKindBytes(*kind));
     if (count < 0)
+        return false;
+    const std::int64_t maskBytes = SampleKindBytes(*maskKind);
+    const AnyView maskView = mask ? AnyViewOf(*mask) : view;
+    if (mask && (!SameExtent(view, maskView) || DenseRun(maskView.bytes, maskBytes) != count))
         return false;
     // Each band's extremes, folded in the order of the bands, so that of
     // equal extremes (0 and -0) the first in memory wins, as in one walk.
@@ -317,18 +366,19 @@ bool Extremes(const ImageRef& image, double& low, double& high)
         using T = typename decltype(tag)::type;
         const T* const samples = reinterpret_cast<const T*>(view.bytes.data);
         ForEachBlock(count, [&](std::int64_t first, std::int64_t last) {
-            // As std::min and std::max: a later equal value does not replace
-            // an earlier one; NaN compares false and is passed over.
-            T lo = std::numeric_limits<T>::has_infinity ? std::numeric_limits<T>::infinity()
-                                                        : std::numeric_limits<T>::max();
-            T hi = std::numeric_limits<T>::has_infinity ? -std::numeric_limits<T>::infinity()
-                                                        : std::numeric_limits<T>::lowest();
+            T lo{}, hi{}, blockLow{}, blockHigh{};
             bool any = false;
-            for (std::int64_t i = first; i < last; ++i) {
-                const T v = samples[i];
-                any = any || v == v;
-                lo = v < lo ? v : lo;
-                hi = hi < v ? v : hi;
+            std::array<std::uint8_t, pointwiseBlock> selected;
+            for (std::int64_t start = first; start < last; start += pointwiseBlock) {
+                const std::int64_t n = std::min(last - start, pointwiseBlock);
+                if (mask)
+                    MarkNonZero(*maskKind, maskView.bytes.data + start * maskBytes, selected.data(), n);
+                if (!ExtremesOfBlock(samples + start, mask ? selected.data() : nullptr, n, blockLow,
+                                     blockHigh))
+                    continue;
+                lo = !any || blockLow < lo ? blockLow : lo;
+                hi = !any || hi < blockHigh ? blockHigh : hi;
+                any = true;
             }
             if (!any)
                 return;
@@ -348,6 +398,18 @@ bool Extremes(const ImageRef& image, double& low, double& high)
     low = least;
     high = greatest;
     return true;
+}
+
+} // namespace
+
+bool Extremes(const ImageRef& image, double& low, double& high)
+{
+    return ExtremesOf(image, nullptr, low, high);
+}
+
+bool Extremes(const ImageRef& image, const ImageRef& mask, double& low, double& high)
+{
+    return ExtremesOf(image, &mask, low, high);
 }
 
 } // namespace Quilon_::Basic::Images::Operators::Pointwise

@@ -66,4 +66,9 @@ bool CountValues(const ImageRef& image, const ImageRef& mask, std::vector<std::i
 // out; [0, 0] when no sample is left.
 bool Extremes(const ImageRef& image, double& low, double& high);
 
+// The same over the samples where `mask` is not 0 (NaN counts as set), for
+// a dense mask of any real type and the image's extent; false, having done
+// nothing, otherwise.
+bool Extremes(const ImageRef& image, const ImageRef& mask, double& low, double& high);
+
 } // namespace Quilon_::Basic::Images::Operators::Pointwise

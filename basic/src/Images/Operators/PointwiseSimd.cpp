@@ -56,24 +56,26 @@ HWY_INLINE void Put(D d, V v, T* to)
 
 // A run of n results into `out`, whole vectors by vectors(streamed, i)
 // from i on (returning where they stopped), the rest by scalar(first,
-// last). `streamed` stores the vectors past the caches, for a run too
-// large to be read again from them: it needs whole aligned vectors, so
-// the results up to the first aligned one are stored one by one.
+// last). The vectors are stored at the output's vector alignment, the
+// results before the first aligned one one by one: a vector stored across
+// two cache lines costs two stores (images start 16 bytes past a line).
+// `streamed` stores the vectors past the caches, for a run too large to be
+// read again from them.
 template <class D, class T, class Scalar, class Vectors>
 HWY_INLINE void StoreRun(D d, T* out, std::size_t n, bool streamed, Scalar&& scalar, Vectors&& vectors)
 {
     const std::size_t vectorBytes = hn::Lanes(d) * sizeof(T);
     const std::uintptr_t misaligned = reinterpret_cast<std::uintptr_t>(out) % vectorBytes;
-    if (streamed && misaligned % sizeof(T) == 0) {
-        const std::size_t head = std::min(n, (vectorBytes - misaligned) % vectorBytes / sizeof(T));
-        scalar(0, head);
-        const std::size_t i = vectors(std::true_type{}, head);
-        scalar(i, n);
+    const std::size_t head =
+        misaligned % sizeof(T) == 0 ? std::min(n, (vectorBytes - misaligned) % vectorBytes / sizeof(T)) : 0;
+    scalar(0, head);
+    if (streamed && head < n && misaligned % sizeof(T) == 0) {
+        scalar(vectors(std::true_type{}, head), n);
         // Streamed stores are ordered with no other stores: make them
         // visible before another thread reads them.
         hwy::FlushStream();
     } else {
-        scalar(vectors(std::false_type{}, 0), n);
+        scalar(vectors(std::false_type{}, head), n);
     }
 }
 

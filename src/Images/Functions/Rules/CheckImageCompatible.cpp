@@ -2,6 +2,7 @@
 
 #include "Images/Functions/Rules/ImageArguments.h"
 #include "Quilon_/Images/Color/ColorFormat.h"
+#include "Quilon_/Images/ImageAxes.h"
 #include "Quilon_/System/Equatable.h"
 #include "Quilon_/System/Functions/Rules/Refuse.h"
 #include "Quilon_/System/Functions/Rules/RulePresentation.h"
@@ -53,11 +54,11 @@ public:
 private:
     bool AxesAgree(IImage& t, IImage& r, RuleFailures& failures) const
     {
-        // Sizes are copies: read them only when the word asks for a test.
+        // Reading axes may copy a size: only when the word asks for a test.
         if (!(options & mcAxesIgnoringBand))
             return true;
-        const Quilon_::Geometry::Axes axesT = t.Size()->Axes();
-        const Quilon_::Geometry::Axes axesR = r.Size()->Axes();
+        const Quilon_::Geometry::Axes axesT = ImageAxes::Of(t);
+        const Quilon_::Geometry::Axes axesR = ImageAxes::Of(r);
         bool differ = false;
         if ((options & mcAxesExact) == mcAxesExact)
             differ = axesT != axesR;

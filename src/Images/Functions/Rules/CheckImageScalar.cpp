@@ -1,6 +1,7 @@
 #include "Quilon_/Images/Functions/Rules/CheckImageScalar.h"
 
 #include "Images/Functions/Rules/ImageArguments.h"
+#include "Quilon_/Images/ImageAxes.h"
 #include "Quilon_/System/Functions/Rules/Refuse.h"
 #include "Quilon_/System/Functions/Rules/RulePresentation.h"
 #include "Quilon_/System/ObjectImpl.h"
@@ -35,7 +36,7 @@ public:
             return Refuse(failures, index, L"Invalid image data type '%1%': scalar type expected",
                           System::ToString(t));
         // The axis counts, not its extent: a band axis of one value fails.
-        if (singleBand && Detail::HasBand(image.Size()->Axes()))
+        if (singleBand && Detail::HasBand(ImageAxes::Of(image)))
             return Refuse(failures, index, L"Single band image expected");
         return true;
     }

@@ -4,8 +4,10 @@
 #include "Quilon_/Drawing/Palette.h"
 #include "Quilon_/Geometry/ShapeSet.h"
 #include "Quilon_/Images/Color/ColorFormat.h"
+#include "Quilon_/Images/ImageAxes.h"
 #include "Quilon_/Images/Padding.h"
 #include "Quilon_/ObjectSets/Attribute.h"
+#include "Quilon_/System/ExtendedProperty.h"
 #include "Quilon_/System/ExtendedPropertyDictionary.h"
 #include "Quilon_/System/Functions/Rules/RulePresentation.h"
 #include "Quilon_/System/ObjectImpl.h"
@@ -53,16 +55,17 @@ Pointer<Quilon_::Geometry::IShapeSet, 0> RoiOf(const Ref<IImage>& image)
 
 // What the output is to become: a format and a size that start as those
 // of another image and are copied before the first change, so that a call
-// that changes nothing copies nothing.
+// that changes nothing copies nothing. The size of an image is read in
+// place (its axes) and asked of the image only when it is to be copied.
 class Shape {
 public:
-    Shape(Ref<IFormat> format, Ref<Quilon_::Geometry::ICoordinates> size)
-        : format(std::move(format)), size(std::move(size))
+    Shape(Ref<IFormat> format, IImage& sizeOf, Axes axes) : format(std::move(format))
     {
+        SetSizeOf(sizeOf, axes);
     }
 
     IFormat& Format() const { return *format; }
-    Quilon_::Geometry::ICoordinates& Size() const { return *size; }
+    Axes SizeAxes() const { return size ? size->Axes() : sizeAxes; }
 
     IFormat& FormatToChange()
     {
@@ -72,20 +75,31 @@ public:
     }
     Quilon_::Geometry::ICoordinates& SizeToChange()
     {
-        if (!sizeOwned)
+        if (!sizeOwned) {
+            if (!size)
+                size = sizeOf->Size();
             SetSize(Cloned<Quilon_::Geometry::ICoordinates>(size));
+        }
         return *size;
     }
-    // A format or size of its own, or another image's, still to be copied.
+    // A format of its own, or another image's, still to be copied.
     void SetFormat(Ref<IFormat> value, bool owned = true)
     {
         format = std::move(value);
         formatOwned = owned;
     }
-    void SetSize(Ref<Quilon_::Geometry::ICoordinates> value, bool owned = true)
+    void SetSize(Ref<Quilon_::Geometry::ICoordinates> value)
     {
         size = std::move(value);
-        sizeOwned = owned;
+        sizeOwned = true;
+    }
+    // The size of `image`, still to be copied.
+    void SetSizeOf(IImage& image, Axes axes)
+    {
+        sizeOf = &image;
+        sizeAxes = axes;
+        size = nullptr;
+        sizeOwned = false;
     }
 
     // The copies that the output is reshaped to.
@@ -97,24 +111,29 @@ public:
     Ref<Quilon_::Geometry::ICoordinates> SizeCopy()
     {
         SizeToChange();
-        return size;
+        return Ref<Quilon_::Geometry::ICoordinates>(size);
     }
 
     bool changed = false;
 
 private:
     Ref<IFormat> format;
-    Ref<Quilon_::Geometry::ICoordinates> size;
+    // Null until the size is asked of `sizeOf` or set.
+    Pointer<Quilon_::Geometry::ICoordinates, 0> size;
+    IImage* sizeOf = nullptr;
+    Axes sizeAxes;
     bool formatOwned = false;
     bool sizeOwned = false;
 };
 
+using Extent = ImageAxes::Extent;
+
 // Whether two sizes have the same axes and values once the band axis is
 // left out of both: the equality of their copies without it.
-bool SameExtentIgnoringBand(Quilon_::Geometry::ICoordinates& a, Quilon_::Geometry::ICoordinates& b)
+bool SameExtentIgnoringBand(const Extent& a, const Extent& b)
 {
-    const Axes axes = a.Axes();
-    if (((axes ^ b.Axes()) & ~Quilon_::Geometry::aB) != 0)
+    const Axes axes = a.axes;
+    if (((axes ^ b.axes) & ~Quilon_::Geometry::aB) != 0)
         return false;
     for (Quilon_::Geometry::AxisEnum axis :
          {Quilon_::Geometry::aX, Quilon_::Geometry::aY, Quilon_::Geometry::aZ, Quilon_::Geometry::aT})
@@ -123,12 +142,57 @@ bool SameExtentIgnoringBand(Quilon_::Geometry::ICoordinates& a, Quilon_::Geometr
     return true;
 }
 
-// Whether an image carries no extended property at all.
-bool Bare(const Ref<IImage>& image)
+// The product of the values of a size, in the order of its axes.
+std::int64_t Product(const Extent& extent)
 {
-    Pointer<System::IExtendedPropertiesContainer, 0> container(image);
-    return container && !container->HasExtendedProperties();
+    std::int64_t product = 1;
+    for (int position = 0; position < 5; ++position)
+        if (extent.axes & (1 << position))
+            product *= extent.values[position];
+    return product;
 }
+
+// The extended properties of one image, for the transfer: it reads them
+// as the property helpers do, but asks for the container once, where the
+// helpers cast the image and count references again for every key. Only an
+// image that the helpers would read through its container is read here
+// (`Known`); anything else goes through the helpers.
+class Properties {
+public:
+    explicit Properties(const Ref<IImage>& image)
+        : container(image), known(container && !Pointer<System::IExtendedPropertyDictionary, 0>(image))
+    {
+    }
+
+    // Carries no extended property at all.
+    bool Bare() const { return container && !container->HasExtendedProperties(); }
+    bool Known() const { return known; }
+    // Known and without a property of `key`: reading it gives nothing and
+    // removing it changes nothing. Asks without making a dictionary.
+    bool Lacks(const LIString& key) const
+    {
+        return known && (!container->HasExtendedProperties() || !container->ExtendedProperties()->Find(key));
+    }
+    // Known and already of `category`: setting it again changes nothing.
+    // A value of another type is left to Image::SetCategory, which raises.
+    bool HasCategory(const LIString& category) const
+    {
+        if (!known || !container->HasExtendedProperties())
+            return false;
+        Pointer<System::IExtendedProperty, 0> property =
+            container->ExtendedProperties()->Find(Image::CategoryKey());
+        if (!property)
+            return false;
+        Any value;
+        property->GetValue(value);
+        const void* held = value.Holder() ? value.Holder()->ValuePointer(typeid(LIString)) : nullptr;
+        return held && *static_cast<const LIString*>(held) == category;
+    }
+
+private:
+    Pointer<System::IExtendedPropertiesContainer, 0> container;
+    bool known;
+};
 
 class CMakeImageCompatible
     : public System::Template::ObjectImpl<CMakeImageCompatible, IRule, IRulePresentation> {
@@ -215,8 +279,11 @@ private:
     static void SilenceEvents(Any& argument, const Ref<IImage>& image)
     {
         // Compared by type, not cast: a failing cast walks every base of the
-        // image, on every call.
-        const System::Interface* held = argument.CastTo<Pointer<System::Interface, 0>>().Get();
+        // image, on every call. Read in its box, without a reference.
+        using Object = Pointer<System::Interface, 0>;
+        const void* boxed = argument.Holder() ? argument.Holder()->ValuePointer(typeid(Object)) : nullptr;
+        const System::Interface* held =
+            boxed ? static_cast<const Object*>(boxed)->Get() : argument.CastTo<Object>().Get();
         if (held && typeid(*held) == typeid(CDisableEventsWrapper))
             return;
         Pointer<System::IDisableEvents, 0> events(image);
@@ -249,16 +316,24 @@ private:
         return false;
     }
 
+    // Carries the properties of the first input over as the word says. A
+    // property that the first input lacks is removed from the output, which
+    // is skipped when the output lacks it too; a category that the output
+    // has already is not set again.
     void TransferProperties(const std::vector<Any>& arguments, const Ref<IImage>& image,
                             const Ref<IImage>& first) const
     {
         const unsigned short word = Transfers();
+        const Properties from(first);
+        const Properties to(image);
         // With no property on either image, every step below would remove
         // what is not there; a call on plain images skips them.
-        bool bare = Bare(first) && Bare(image);
+        bool bare = from.Bare() && to.Bare();
         if (!(options & mcCategory) && !(word & tpCategory)) {
             if (HasCategoryOption()) {
-                Image::SetCategory(image, makeOptions.Value().category, false);
+                const System::Nullable<LIString>& category = makeOptions.Value().category;
+                if (!to.HasCategory(category.Value()))
+                    Image::SetCategory(image, category, false);
                 bare = false;
             }
         } else if (!bare) {
@@ -268,28 +343,39 @@ private:
             image->SetLinkedData(first->LinkedData());
         if (bare)
             return;
-        if (word & tpPalette)
-            Image::SetPalette(image, Image::Palette(first));
+        // What a known, bare first input gives: nothing, on every key.
+        const bool fromNothing = from.Known() && from.Bare();
+        if (word & tpPalette) {
+            if (!fromNothing)
+                Image::SetPalette(image, Image::Palette(first));
+            else if (!to.Lacks(Image::PaletteKey()))
+                Image::SetPalette(image, Pointer<Drawing::IPalette, 0>());
+        }
         // In place, the output keeps its own origin and region.
         if (UsedInPlace(arguments, image))
             return;
         if (word & tpNewOrigin) {
-            Pointer<Quilon_::Geometry::ICoordinates, 0> origin = Image::Origin(first);
-            if (!Image::Origin(image) && origin)
+            Pointer<Quilon_::Geometry::ICoordinates, 0> origin = fromNothing ? nullptr : Image::Origin(first);
+            if (origin && !Image::Origin(image))
                 Image::SetOrigin(image, Cloned<Quilon_::Geometry::ICoordinates>(origin));
         } else if (word & tpOrigin) {
-            Pointer<Quilon_::Geometry::ICoordinates, 0> origin = Image::Origin(first);
+            Pointer<Quilon_::Geometry::ICoordinates, 0> origin = fromNothing ? nullptr : Image::Origin(first);
             // A missing origin removes the output's.
-            Image::SetOrigin(image, origin ? Pointer<Quilon_::Geometry::ICoordinates, 0>(
-                                                 Cloned<Quilon_::Geometry::ICoordinates>(origin))
-                                           : Pointer<Quilon_::Geometry::ICoordinates, 0>());
+            if (origin)
+                Image::SetOrigin(image, Cloned<Quilon_::Geometry::ICoordinates>(origin));
+            else if (!to.Lacks(Image::OriginKey()))
+                Image::SetOrigin(image, Pointer<Quilon_::Geometry::ICoordinates, 0>());
         }
         if (word & tpNewROI) {
-            Pointer<Quilon_::Geometry::IShapeSet, 0> roi = Image::ROI(image);
-            if (roi && roi->Count() > 0)
-                Image::SetROI(image, RoiOf(first));
+            if (!to.Lacks(Image::ROIKey())) {
+                Pointer<Quilon_::Geometry::IShapeSet, 0> roi = Image::ROI(image);
+                if (roi && roi->Count() > 0)
+                    Image::SetROI(image, RoiOf(first));
+            }
         } else if (word & tpROI) {
-            Image::SetROI(image, RoiOf(first));
+            Pointer<Quilon_::Geometry::IShapeSet, 0> roi = fromNothing ? nullptr : RoiOf(first);
+            if (roi || !to.Lacks(Image::ROIKey()))
+                Image::SetROI(image, roi);
         }
     }
 
@@ -298,30 +384,30 @@ private:
     Shape Decide(const Ref<IImage>& image, const std::vector<Ref<IImage>>& images)
     {
         const Ref<IImage>& first = images.front();
-        const Ref<Quilon_::Geometry::ICoordinates> firstSize = first->Size();
-        const Ref<Quilon_::Geometry::ICoordinates> outputSize = image->Size();
-        Shape shape(first->Format(), firstSize);
+        const Extent firstSize = ImageAxes::ExtentOf(*first);
+        const Extent outputSize = ImageAxes::ExtentOf(*image);
+        Shape shape(first->Format(), *first, firstSize.axes);
 
         NumericTypeEnum type = image->Format()->DataType();
         // An empty 8-bit image is a fresh output: it takes everything.
-        if (type == System::ntUInt8 && Quilon_::Geometry::Coordinates::Product(outputSize) == 0) {
+        if (type == System::ntUInt8 && Product(outputSize) == 0) {
             type = shape.Format().DataType();
             shape.changed = true;
         }
         if (options & mcSize) {
-            if (!SameExtentIgnoringBand(*firstSize, *outputSize))
+            if (!SameExtentIgnoringBand(firstSize, outputSize))
                 shape.changed = true;
         } else {
-            shape.SetSize(outputSize, false);
+            shape.SetSizeOf(*image, outputSize.axes);
         }
-        DecideAxes(shape, firstSize->Axes(), outputSize->Axes());
+        DecideAxes(shape, firstSize.axes, outputSize.axes);
         type = DecideType(shape, type, images);
         if (makeOptions.HasValue()) {
             const MakeImageOptions& made = makeOptions.Value();
             if (made.typeOptions.HasValue())
                 type = TypeFromOptions(shape, type, made.typeOptions.Value());
             if (made.category.HasValue())
-                ShapeForCategory(shape, type, made.category.Value(), *image, outputSize->Axes());
+                ShapeForCategory(shape, type, made.category.Value(), *image, outputSize.axes);
         }
         if (type != shape.Format().DataType())
             shape.FormatToChange().SetDataType(type);
@@ -381,27 +467,27 @@ private:
     {
         const NumericTypeEnum bandType = shape.changed ? type : shape.Format().DataType();
         if (category == greyCategory || category == binaryCategory) {
-            const Axes axes = shape.Size().Axes();
+            const Axes axes = shape.SizeAxes();
             if (HasBand(axes)) {
                 shape.SizeToChange().SetAxes(static_cast<unsigned char>(axes & ~Quilon_::Geometry::aB));
                 shape.SetFormat(UniformFormat::New(
                     StorageOrder::Remove(shape.Format().StorageOrder(), Quilon_::Geometry::aB)));
                 shape.Format().SetDataType(bandType);
             }
-            if (shape.Size().Axes() != outputAxes)
+            if (shape.SizeAxes() != outputAxes)
                 shape.changed = true;
             // A binary output shows itself in black and white.
             if (category == binaryCategory)
                 ClearTransfers(tpPalette);
         } else if (category == colorCategory) {
-            const Axes axes = shape.Size().Axes();
+            const Axes axes = shape.SizeAxes();
             if (!HasBand(axes)) {
                 Quilon_::Geometry::ICoordinates& size = shape.SizeToChange();
                 size.SetAxes(static_cast<unsigned char>(axes | Quilon_::Geometry::aB));
                 size.SetB(3);
             }
             Ref<IFormat> outputFormat = image.Format();
-            if (shape.Size().Axes() == outputAxes && Pointer<Color::IColorFormat, 0>(outputFormat)) {
+            if (shape.SizeAxes() == outputAxes && Pointer<Color::IColorFormat, 0>(outputFormat)) {
                 // Copied before a change, so that the output's own stays.
                 shape.SetFormat(outputFormat, false);
             } else {

@@ -12,6 +12,7 @@
 #include "Quilon_/Math/Matrix.h"
 #include "Quilon_/System/DisableEvents.h"
 #include "Quilon_/System/Equatable.h"
+#include "Quilon_/System/ExtendedPropertiesHelper.h"
 #include "Quilon_/System/Functions/Rules/RulePresentation.h"
 
 #include "../../../Support/BasicLibrary.h"
@@ -221,6 +222,63 @@ TEST(ImageMakeRules, PropertiesFollowTheTransferWord)
         // tpOrigin from an input without one removes the output's.
         Make(MakeImageCompatible::New(1, 0, mcSize, tpOrigin), Plain(ntUInt8, 8, 6), placed);
         EXPECT_FALSE(Image::Origin(placed));
+    });
+}
+
+// An output that carries every property, made after an input that carries
+// none, twice over as an application calls: each word removes what the
+// input lacks and leaves the rest; a category already in place stays, and
+// one of the wrong kind fails the call as reading it fails.
+TEST(ImageMakeRules, PlainInputClearsWhatTheWordCarries)
+{
+    InChildProcess([] {
+        StartBasic();
+        auto decorated = [] {
+            ImageRef image = Plain(ntUInt8, 8, 6);
+            Image::SetCategory(image, LIString(L"Image.Category.Label"), false);
+            Image::SetOrigin(image, Geometry::Coordinates::New(3, 4, Axes::aXY));
+            Image::SetROI(image, Ref<Geometry::IShapeND>(Geometry::TwoD::PointF::New(1.0f, 2.0f, Axes::aXY)));
+            Image::SetPalette(
+                image, Drawing::Palette::New(LIString(L"Palette.Test"), std::vector<Drawing::Color>{}));
+            return image;
+        };
+        struct Case {
+            const char* what;
+            unsigned short word;
+            bool origin, roi, palette;
+        };
+        const Case cases[] = {
+            {"no word keeps everything", 0, true, true, true},
+            {"tpOrigin", tpOrigin, false, true, true},
+            {"tpNewOrigin keeps the output's", tpNewOrigin, true, true, true},
+            {"tpROI", tpROI, true, false, true},
+            {"tpNewROI replaces a region by none", tpNewROI, true, false, true},
+            {"tpPalette", tpPalette, true, true, false},
+            {"all of them", tpOrigin | tpROI | tpPalette, false, false, false},
+        };
+        for (const Case& c : cases) {
+            ImageRef output = decorated();
+            for (int call = 0; call < 2; ++call) {
+                Make(MakeImageCompatible::New(1, 0, mcSize, c.word), Plain(ntUInt8, 8, 6), output);
+                EXPECT_EQ(bool(Image::Origin(output)), c.origin) << c.what << ", call " << call;
+                EXPECT_EQ(bool(Image::ROI(output)), c.roi) << c.what << ", call " << call;
+                EXPECT_EQ(bool(Image::Palette(output)), c.palette) << c.what << ", call " << call;
+                EXPECT_EQ(Image::Category(output).Value(), LIString(L"Image.Category.Label")) << c.what;
+            }
+        }
+
+        ImageRef output = decorated();
+        for (int call = 0; call < 2; ++call) {
+            Make(MakeImageCompatible::New(1, 0, mcSize, WithCategory(binary), 0), Plain(ntUInt8, 8, 6),
+                 output);
+            EXPECT_EQ(Image::Category(output).Value(), binary) << "call " << call;
+        }
+        ExtendedPropertiesHelper::SetValue(output, Image::CategoryKey(), ToAny(std::int64_t(7)));
+        EXPECT_NE(Refusal([&] {
+                      Make(MakeImageCompatible::New(1, 0, mcSize, WithCategory(binary), 0),
+                           Plain(ntUInt8, 8, 6), output);
+                  }),
+                  L"");
     });
 }
 
