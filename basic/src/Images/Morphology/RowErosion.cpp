@@ -190,25 +190,40 @@ T* ChainScratchOf(std::int64_t samples)
     return reinterpret_cast<T*>((address + 63) / 64 * 64);
 }
 
-// Fetches the rows of output row (y, z) that lie lowest in each plane of
-// the offsets: the rows it reads first, each a new page, where the
-// processor's own prefetching starts late.
-template <class T>
-void PrefetchLowestRows(const Grid& grid, RowVolume<const T> in, std::span<const Shift> shifts,
-                        std::int64_t y, std::int64_t z)
-{
-    // Many offsets are many rows, which the folds already take a few at a
-    // time; finding the lowest ones would cost more than it saves.
-    constexpr std::size_t mostShifts = 16;
-    if (shifts.size() > mostShifts)
-        return;
-    for (const Shift& s : shifts) {
-        bool lowest = true, first = true;
-        for (const Shift& other : shifts) {
-            lowest = lowest && !(other.dz == s.dz && other.dy > s.dy);
-            first = first && !(&other < &s && other.dz == s.dz && other.dy == s.dy);
+// The offsets that lie lowest in each plane of an element, one per row:
+// the rows an output row reads first, each a new page, where the
+// processor's own prefetching starts late. Found once per band, not per
+// row. None for many offsets: they are many rows, which the folds already
+// take a few at a time, and finding the lowest would cost more than it saves.
+struct LowestShifts {
+    static constexpr std::size_t most = 16;
+    Shift shifts[most];
+    std::size_t count = 0;
+
+    explicit LowestShifts(std::span<const Shift> all)
+    {
+        if (all.size() > most)
+            return;
+        for (const Shift& s : all) {
+            bool lowest = true, first = true;
+            for (const Shift& other : all) {
+                lowest = lowest && !(other.dz == s.dz && other.dy > s.dy);
+                first = first && !(&other < &s && other.dz == s.dz && other.dy == s.dy);
+            }
+            if (lowest && first)
+                shifts[count++] = s;
         }
-        if (!lowest || !first || !grid.Contains(0, y + s.dy, z + s.dz))
+    }
+};
+
+// Fetches the lowest rows of output row (y, z) that lie in the image.
+template <class T>
+void PrefetchLowestRows(const Grid& grid, RowVolume<const T> in, const LowestShifts& lowest, std::int64_t y,
+                        std::int64_t z)
+{
+    for (std::size_t i = 0; i < lowest.count; ++i) {
+        const Shift& s = lowest.shifts[i];
+        if (!grid.Contains(0, y + s.dy, z + s.dz))
             continue;
         const T* row = in.Row(y + s.dy, z + s.dz);
         for (std::int64_t x = 0; x < grid.nx; x += std::int64_t(64 / sizeof(T)))
@@ -288,8 +303,9 @@ void FoldLineRows(const Grid& grid, RowVolume<const T> in, RowVolume<T> out, con
     };
     const std::int64_t lastInputRow = yb - 1 + line.y0 + length - 1;
     const Shift first{0, 0, 0};
+    const LowestShifts lowest(std::span(&first, 1));
     for (std::int64_t J = base; J <= lastInputRow; ++J) {
-        PrefetchLowestRows(grid, in, std::span(&first, 1), J + 2, z);
+        PrefetchLowestRows(grid, in, lowest, J + 2, z);
         firstRows[std::size_t((J - base) % 2)] = firstLevelRow(J);
         std::int64_t half = 1;
         for (std::size_t k = 1; k < levelCount; ++k, half *= 2) {
@@ -345,9 +361,10 @@ void FoldRowRange(const Grid& grid, RowVolume<const T> in, RowVolume<T> out, con
     } else {
         const FoldScratch<T> scratch =
             FoldScratchOf<T>(plan.groups.empty() ? 0 : grid.nx + 2 * plan.padding, plan.widestFold + 2);
+        const LowestShifts lowest(plan.points);
         for (std::int64_t r = firstRow; r < lastRow; ++r) {
             const std::int64_t y = r % grid.ny, z = r / grid.ny;
-            PrefetchLowestRows(grid, in, plan.points, y + 2, z);
+            PrefetchLowestRows(grid, in, lowest, y + 2, z);
             T* target = out.Row(y, z);
             bool written = FoldPoints(grid, in, plan.points, y, z, maximum, stream && plan.groups.empty(),
                                       target, scratch.sources);
